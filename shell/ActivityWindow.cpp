@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ActivityWindow.h"
+
+#include "Preferences.h"
+#include "Random.h"
+#include "Services.h"
+#include "WindowUtil.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QTimer>
+
+ActivityWindow::ActivityWindow(const QString &helpTopic, QWidget *parent)
+    : QWidget(parent, Qt::Window), m_helpTopic(helpTopic)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    RandomizeFromClock();
+}
+
+QString ActivityWindow::exitCaption(bool running)
+{
+    return running ? QStringLiteral("&Stop") : QStringLiteral("E&xit");
+}
+
+void ActivityWindow::setRunningCaption(QPushButton *button, bool running)
+{
+    button->setText(exitCaption(running));
+}
+
+void ActivityWindow::openHelp()
+{
+    ShowHelp(this, m_helpTopic);
+}
+
+void ActivityWindow::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (!m_centred) {
+        m_centred = true;
+        if (Preferences::get().fullScreen)
+            setWindowState(windowState() | Qt::WindowFullScreen);
+        else
+            CentreOnScreen(this);
+    }
+}
+
+void ActivityWindow::closeEvent(QCloseEvent *event)
+{
+    const auto timers = findChildren<QTimer *>();
+    for (QTimer *timer : timers)
+        timer->stop();
+    StopSound();
+    event->accept();
+    emit closed();
+}
+
+void ActivityWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_F11) {
+        Preferences::get().fullScreen = !isFullScreen();
+        setWindowState(windowState() ^ Qt::WindowFullScreen);
+        return;
+    }
+    if (event->key() == Qt::Key_F1) {
+        openHelp();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}

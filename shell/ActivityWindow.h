@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+class QPushButton;
+
+// What every activity window shares: it seeds the random source when it opens, centres itself,
+// knows its help topic, switches its end button between "E&xit" and "&Stop", and when it
+// closes stops its timers and sounds and tells the menu to come back.
+class ActivityWindow : public QWidget {
+    Q_OBJECT
+public:
+    explicit ActivityWindow(const QString &helpTopic, QWidget *parent = nullptr);
+    QString helpTopic() const { return m_helpTopic; }
+
+    static QString exitCaption(bool running);
+
+signals:
+    void closed();
+
+protected:
+    // Sets the end button's caption: "&Stop" while something runs, "E&xit" otherwise.
+    static void setRunningCaption(QPushButton *button, bool running);
+    void openHelp();
+    void showEvent(QShowEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    QString m_helpTopic;
+    bool m_centred = false;
+};

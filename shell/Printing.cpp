@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Printing.h"
+
+#include "TextWrap.h"
+
+#include <cmath>
+#include <QFile>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPdfWriter>
+
+PrintDocument::PrintDocument(const QString &title, const QString &continuedTitle)
+    : m_title(title), m_continued(continuedTitle)
+{
+    setFont(QStringLiteral("Courier New"), 12);
+}
+
+QString PrintDocument::creditLine()
+{
+    return QStringLiteral("Lumbridle 5.0 - learning games for curious minds");
+}
+
+void PrintDocument::setFont(const QString &family, int points)
+{
+    m_font = QFont(family);
+    m_font.setStyleHint(QFont::TypeWriter);
+    // Page units are hundredths of an inch, a point is a 72nd.
+    m_font.setPixelSize(qMax(1, qRound(points * 100.0 / 72.0)));
+}
+
+int PrintDocument::charsPerLine() const
+{
+    const double width = QFontMetricsF(m_font).horizontalAdvance(QLatin1Char('H'));
+    return width > 0 ? qMax(1, int(std::floor(TextWidth / width))) : 65;
+}
+
+void PrintDocument::addText(const QString &text)
+{
+    m_blocks.append(Block{text, true, 0, {}});
+}
+
+void PrintDocument::addLine(const QString &line)
+{
+    m_blocks.append(Block{line, false, 0, {}});
+}
+
+void PrintDocument::addBlankLine()
+{
+    addLine(QString());
+}
+
+void PrintDocument::addDrawing(int height, Drawing drawing)
+{
+    m_blocks.append(Block{QString(), false, height, std::move(drawing)});
+}
+
+QList<QList<PrintDocument::Placed>> PrintDocument::layOut() const
+{
+    const int lineHeight = qCeil(QFontMetricsF(m_font).lineSpacing());
+    const int width = charsPerLine();
+    QList<QList<Placed>> pages;
+    int y = 0;
+    auto startPage = [&] {
+        pages.append(QList<Placed>());
+        y = Top;
+        const QString title = pages.size() == 1 ? m_title : continuedTitle();
+        for (const QString &line : {creditLine(), QString(), title, QString()}) {
+            pages.last().append(Placed{y, line, lineHeight, {}});
+            y += lineHeight;
+        }
+    };
+    startPage();
+    auto place = [&](Placed item) {
+        if (y + item.height > Bottom)
+            startPage();
+        item.y = y;
+        pages.last().append(item);
+        y += item.height;
+    };
+    for (const Block &block : m_blocks) {
+        if (block.drawing) {
+            place(Placed{0, QString(), block.height, block.drawing});
+        } else if (block.wrap) {
+            for (const QString &line : WordWrap(block.text, width))
+                place(Placed{0, line, lineHeight, {}});
+        } else {
+            place(Placed{0, block.text, lineHeight, {}});
+        }
+    }
+    return pages;
+}
+
+void RenderDocument(const PrintDocument &document, QPagedPaintDevice &device)
+{
+    QPainter painter(&device);
+    if (!painter.isActive())
+        return;
+    const auto pages = document.layOut();
+    for (qsizetype p = 0; p < pages.size(); ++p) {
+        if (p > 0)
+            device.newPage();
+        painter.setWindow(0, 0, PrintDocument::PageWidth, PrintDocument::PageHeight);
+        painter.setViewport(0, 0, device.width(), device.height());
+        painter.setFont(document.font());
+        painter.setPen(Qt::black);
+        const QFontMetricsF metrics(document.font());
+        for (const auto &item : pages[p]) {
+            if (item.drawing) {
+                painter.save();
+                item.drawing(painter, QRect(PrintDocument::Left, item.y, PrintDocument::TextWidth,
+                                            item.height));
+                painter.restore();
+                painter.setFont(document.font());
+            } else if (!item.text.isEmpty()) {
+                painter.drawText(QPointF(PrintDocument::Left, item.y + metrics.ascent()),
+                                 item.text);
+            }
+        }
+    }
+}
+
+bool WritePdf(const PrintDocument &document, const QString &path)
+{
+    {
+        QPdfWriter writer(path);
+        writer.setPageSize(QPageSize(QPageSize::Letter));
+        writer.setPageMargins(QMarginsF(0, 0, 0, 0));
+        writer.setResolution(600);
+        writer.setTitle(document.title());
+        writer.setCreator(QStringLiteral("Lumbridle 5.0"));
+        RenderDocument(document, writer);
+    }
+    QFile written(path);
+    return written.exists() && written.size() > 0;
+}

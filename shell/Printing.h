@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <QFont>
+#include <QList>
+#include <QString>
+
+class QPagedPaintDevice;
+class QPainter;
+
+// A document for the printer on a letter page of 850 x 1100 logical units (hundredths of an
+// inch): a credit line, the title, then the body; further pages repeat the header with the
+// continued title. The body is text wrapped at a fixed number of characters per line and
+// drawings that keep their place on one page.
+class PrintDocument {
+public:
+    static constexpr int PageWidth = 850;
+    static constexpr int PageHeight = 1100;
+    static constexpr int Left = 100;
+    static constexpr int Top = 50;
+    static constexpr int Bottom = 1030;
+    static constexpr int TextWidth = 650;
+
+    using Drawing = std::function<void(QPainter &painter, const QRect &area)>;
+
+    explicit PrintDocument(const QString &title, const QString &continuedTitle = {});
+
+    QString title() const { return m_title; }
+    QString continuedTitle() const { return m_continued.isEmpty() ? m_title : m_continued; }
+    static QString creditLine();
+
+    // The printing font: a family and a size in points turned into page units.
+    void setFont(const QString &family, int points);
+    QFont font() const { return m_font; }
+    // Characters per line: Int(650 / width of "H") in the printing font.
+    int charsPerLine() const;
+
+    // Text broken at blanks into lines of at most charsPerLine() characters.
+    void addText(const QString &text);
+    void addLine(const QString &line);
+    void addBlankLine();
+    // A drawing of a given height in page units, moved to a new page when it does not fit.
+    void addDrawing(int height, Drawing drawing);
+
+    // One laid-out page: the lines and drawings at their places.
+    struct Placed {
+        int y = 0;
+        QString text;
+        int height = 0;
+        Drawing drawing;
+    };
+    QList<QList<Placed>> layOut() const;
+
+private:
+    struct Block {
+        QString text;
+        bool wrap = false;
+        int height = 0;
+        Drawing drawing;
+    };
+    QString m_title;
+    QString m_continued;
+    QFont m_font;
+    QList<Block> m_blocks;
+};
+
+// Paints every page of the document on a printer or PDF writer.
+void RenderDocument(const PrintDocument &document, QPagedPaintDevice &device);
+// Writes the document as a PDF file; false when the file cannot be written.
+bool WritePdf(const PrintDocument &document, const QString &path);

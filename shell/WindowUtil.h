@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+// Puts a window in the middle of its screen: ((screen size - window size) / 2).
+void CentreOnScreen(QWidget *window);
+// Sets a widget's object name, the name tests and accessibility tools find it by.
+template <typename T> T *Named(T *widget, const QString &name)
+{
+    widget->setObjectName(name);
+    return widget;
+}
+// The name of element `index` of a control array: "cmdChoice_3".
+inline QString ArrayName(const char *name, int index)
+{
+    return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index);
+}
+// Makes a widget's type larger by a factor, for young readers.
+void ScaleFont(QWidget *widget, double factor, bool bold = false);

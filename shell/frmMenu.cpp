@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frmMenu.h"
+
+#include "ActivityWindow.h"
+#include "DataPath.h"
+#include "Preferences.h"
+#include "Services.h"
+#include "SettingsStore.h"
+#include "widgets/PictureBox.h"
+#include "WindowUtil.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLoggingCategory>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+Q_DECLARE_LOGGING_CATEGORY(lcShell)
+
+namespace {
+constexpr int Columns = 5;
+constexpr int ChoiceCount = 15;
+
+// Bright colours, dark enough that white lettering stays easy to read.
+constexpr const char *ButtonColours[ChoiceCount] = {
+    "#1565C0", "#C62828", "#4527A0", "#2E7D32", "#D84315", "#F9A825", "#AD1457", "#37474F",
+    "#00838F", "#6A1B9A", "#1E88E5", "#283593", "#558B2F", "#00695C", "#E65100"};
+} // namespace
+
+frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
+    : QWidget(parent), m_activities(activities)
+{
+    setObjectName(QStringLiteral("frmMenu"));
+    setWindowTitle(QStringLiteral("Lumbridle, Version 5.0"));
+    setAutoFillBackground(true);
+    QPalette background = palette();
+    QLinearGradient sky(0, 0, 0, 1);
+    sky.setCoordinateMode(QGradient::ObjectMode);
+    sky.setColorAt(0, QColor("#B3E5FC"));
+    sky.setColorAt(1, QColor("#FFF9C4"));
+    background.setBrush(QPalette::Window, sky);
+    setPalette(background);
+
+    Image1 = Named(new PictureBox(this), QStringLiteral("Image1"));
+    Image1->load(DataFile(QStringLiteral("menu.svg")));
+    Image1->setMinimumHeight(150);
+
+    auto *title = Named(new QLabel(tr("Pick an activity!"), this), QStringLiteral("lblTitle"));
+    QFont titleFont(QStringLiteral("Comic Sans MS"));
+    titleFont.setPointSize(22);
+    titleFont.setBold(true);
+    title->setFont(titleFont);
+    title->setAlignment(Qt::AlignCenter);
+    title->setStyleSheet(QStringLiteral("color: #0D47A1;"));
+
+    QFont choiceFont(QStringLiteral("Comic Sans MS"));
+    choiceFont.setPointSize(15);
+    choiceFont.setBold(true);
+    auto *grid = new QGridLayout;
+    grid->setSpacing(12);
+    for (int i = 0; i < ChoiceCount; ++i) {
+        const auto entry = std::find_if(m_activities.cbegin(), m_activities.cend(),
+                                        [i](const ActivityEntry &e) { return e.index == i; });
+        auto *button = Named(new QPushButton(this), ArrayName("cmdChoice", i));
+        button->setText(entry != m_activities.cend() ? entry->caption : QString());
+        button->setFont(choiceFont);
+        button->setMinimumSize(150, 64);
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        button->setEnabled(entry != m_activities.cend() && entry->open);
+        if (!button->isEnabled())
+            button->setToolTip(tr("This activity is not in this version yet."));
+        const QColor colour(ButtonColours[i]);
+        const bool darkText = colour.lightness() > 150;
+        button->setStyleSheet(
+            QStringLiteral("QPushButton { background: %1; color: %2; border: 3px solid %3;"
+                           " border-radius: 14px; padding: 6px; }"
+                           "QPushButton:hover { background: %4; }"
+                           "QPushButton:pressed { background: %3; }"
+                           "QPushButton:focus { border: 5px solid #FFEB3B; }"
+                           "QPushButton:disabled { background: #CFD8DC; color: #78909C;"
+                           " border-color: #B0BEC5; }")
+                .arg(colour.name(), darkText ? QStringLiteral("#212121") : QStringLiteral("white"),
+                     colour.darker(140).name(), colour.lighter(120).name()));
+        connect(button, &QPushButton::clicked, this, [this, i] { openActivity(i); });
+        grid->addWidget(button, i / Columns, i % Columns);
+        m_choices.append(button);
+    }
+
+    cmdHelp = Named(new QPushButton(tr("&Help"), this), QStringLiteral("cmdHelp"));
+    cmdSound = Named(new QPushButton(this), QStringLiteral("cmdSound"));
+    cmdSound->setCheckable(true);
+    cmdExit = Named(new QPushButton(tr("E&xit"), this), QStringLiteral("cmdExit"));
+    for (QPushButton *button : {cmdHelp, cmdSound, cmdExit}) {
+        ScaleFont(button, 1.3, true);
+        button->setMinimumHeight(44);
+        button->setMinimumWidth(130);
+    }
+    connect(cmdHelp, &QPushButton::clicked, this, [this] { ShowHelpContents(this); });
+    connect(cmdSound, &QPushButton::toggled, this, [this](bool muted) {
+        Preferences::get().muted = muted;
+        if (muted)
+            StopSound();
+        updateSoundButton();
+    });
+    connect(cmdExit, &QPushButton::clicked, this, &QWidget::close);
+    cmdSound->setChecked(Preferences::get().muted);
+    updateSoundButton();
+
+    auto *top = new QHBoxLayout;
+    top->addWidget(Image1, 3);
+    top->addWidget(title, 2);
+    auto *bottom = new QHBoxLayout;
+    bottom->addWidget(cmdHelp);
+    bottom->addWidget(cmdSound);
+    bottom->addStretch();
+    bottom->addWidget(cmdExit);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 16, 20, 16);
+    layout->setSpacing(14);
+    layout->addLayout(top, 2);
+    layout->addLayout(grid, 3);
+    layout->addLayout(bottom);
+    resize(1000, 700);
+}
+
+void frmMenu::updateSoundButton()
+{
+    cmdSound->setText(cmdSound->isChecked() ? tr("Sound &off") : tr("Sound &on"));
+    cmdSound->setToolTip(tr("Turn all sounds on or off, for a quiet classroom."));
+}
+
+void frmMenu::openActivity(int index)
+{
+    const auto entry = std::find_if(m_activities.cbegin(), m_activities.cend(),
+                                    [index](const ActivityEntry &e) { return e.index == index; });
+    if (entry == m_activities.cend() || !entry->open || m_current)
+        return;
+    hide();
+    ActivityWindow *window = entry->open();
+    if (!window) {
+        qCWarning(lcShell) << "activity" << index << "has nothing to open";
+        return;
+    }
+    m_current = window;
+    connect(window, &ActivityWindow::closed, this, &frmMenu::activityClosed);
+    window->show();
+}
+
+void frmMenu::activityClosed()
+{
+    m_current = nullptr;
+    if (!m_closing)
+        show();
+}
+
+void frmMenu::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (!m_centred) {
+        m_centred = true;
+        if (Preferences::get().fullScreen)
+            setWindowState(windowState() | Qt::WindowFullScreen);
+        else
+            CentreOnScreen(this);
+    }
+}
+
+void frmMenu::closeEvent(QCloseEvent *event)
+{
+    m_closing = true;
+    if (m_current)
+        m_current->close();
+    FileError error;
+    if (!SettingsStore::save(&error))
+        qCWarning(lcShell) << "settings not saved:" << error.message();
+    Preferences::get().save();
+    event->accept();
+    QCoreApplication::quit();
+}
+
+void frmMenu::keyPressEvent(QKeyEvent *event)
+{
+    // Arrow keys walk the grid of activity buttons, for pupils who play by keyboard.
+    const int at = int(m_choices.indexOf(qobject_cast<QPushButton *>(focusWidget())));
+    int step = 0;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        step = -1;
+        break;
+    case Qt::Key_Right:
+        step = 1;
+        break;
+    case Qt::Key_Up:
+        step = -Columns;
+        break;
+    case Qt::Key_Down:
+        step = Columns;
+        break;
+    case Qt::Key_F1:
+        ShowHelpContents(this);
+        return;
+    case Qt::Key_F11:
+        Preferences::get().fullScreen = !isFullScreen();
+        setWindowState(windowState() ^ Qt::WindowFullScreen);
+        return;
+    default:
+        break;
+    }
+    if (at >= 0 && step != 0) {
+        for (int next = at + step; next >= 0 && next < ChoiceCount; next += step)
+            if (m_choices[next]->isEnabled()) {
+                m_choices[next]->setFocus(Qt::TabFocusReason);
+                return;
+            }
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}

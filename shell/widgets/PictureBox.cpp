@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "PictureBox.h"
+
+#include <QImageReader>
+#include <QPainter>
+#include <QSvgRenderer>
+
+PictureBox::PictureBox(QWidget *parent) : QWidget(parent)
+{
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+bool PictureBox::load(const QString &file)
+{
+    clear();
+    if (file.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)) {
+        m_svg = new QSvgRenderer(file, this);
+        if (!m_svg->isValid()) {
+            clear();
+            return false;
+        }
+    } else {
+        QImageReader reader(file);
+        m_image = reader.read();
+        if (m_image.isNull())
+            return false;
+    }
+    m_file = file;
+    updateGeometry();
+    update();
+    return true;
+}
+
+void PictureBox::clear()
+{
+    delete m_svg;
+    m_svg = nullptr;
+    m_image = QImage();
+    m_file.clear();
+    update();
+}
+
+bool PictureBox::isEmpty() const
+{
+    return !m_svg && m_image.isNull();
+}
+
+QSize PictureBox::pictureSize() const
+{
+    if (m_svg)
+        return m_svg->viewBox().size();
+    return m_image.size();
+}
+
+QSize PictureBox::sizeHint() const
+{
+    const QSize size = pictureSize();
+    return size.isEmpty() ? QSize(100, 100) : size.boundedTo(QSize(480, 480));
+}
+
+QRectF PictureBox::pictureRect() const
+{
+    const QSizeF picture = pictureSize();
+    if (picture.isEmpty())
+        return {};
+    const QSizeF fitted = picture.scaled(QSizeF(size()), Qt::KeepAspectRatio);
+    return QRectF(QPointF((width() - fitted.width()) / 2, (height() - fitted.height()) / 2),
+                  fitted);
+}
+
+void PictureBox::paintEvent(QPaintEvent *)
+{
+    if (isEmpty())
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    if (m_svg)
+        m_svg->render(&painter, pictureRect());
+    else
+        painter.drawImage(pictureRect(), m_image);
+}
