@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+// What the command line asks for.
+struct StartOptions {
+    QString dataDir; // empty: the program's own folder
+    bool help = false;
+    bool version = false;
+    QString error; // an unknown option or a missing folder name
+};
+
+StartOptions ParseCommandLine(const QStringList &arguments);
+QString UsageText();
+
+// Everything before the menu appears: fonts, the data folder, our preferences and the settings
+// file. A missing or damaged settings file shows "File missing/incomplete - Reinstall program"
+// and returns false, with no value substituted.
+bool PrepareStart(const QString &dataDir);
