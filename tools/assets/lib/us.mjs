@@ -10,7 +10,7 @@ import { presimplify, simplify, sphericalTriangleArea } from "topojson-simplify"
 import { geoAlbers, geoCentroid, geoConicEqualArea, geoPath } from "d3-geo";
 import polylabel from "polylabel";
 import { STATES, INSET_STATES } from "./states.mjs";
-import { insideRings, orderLargestFirst, pathData, projectRings, ringsForJson, roundRings } from "./paths.mjs";
+import { insideRings, orderLargestFirst, pathData, projectRings, ringsForJson, roundRings, signedArea } from "./paths.mjs";
 import { pngToBmp, svgToPng, writeIfChanged } from "./render.mjs";
 
 export const US_FRAME = { width: 960, height: 600 };
@@ -40,6 +40,11 @@ const MIN_TRIANGLE_AREA = 1.0;
 const INSET_PIXELS_PER_UNIT = 2;
 
 const PADDING = 8;
+
+// States smaller than this many square frame units get a ring around them
+// as well, or a pupil could not spot the highlight.
+const SMALL_STATE_AREA = 400;
+const RING_RADIUS = 16;
 
 function loadTopology(modulesDir) {
   return JSON.parse(fs.readFileSync(path.join(modulesDir, "us-atlas", "states-10m.json"), "utf8"));
@@ -119,13 +124,23 @@ function svgDocument(width, height, viewBox, body) {
   );
 }
 
-function mapSvg(nation, mesh, highlighted) {
+function ringedArea(rings) {
+  return rings.reduce((sum, ring) => sum + Math.abs(signedArea(ring)), 0);
+}
+
+function mapSvg(nation, mesh, highlighted, point) {
   let body =
     `<rect width="${US_FRAME.width}" height="${US_FRAME.height}" fill="${COLOURS.background}"/>\n` +
     `<path fill="${COLOURS.plain}" stroke="${COLOURS.coast}" stroke-width="1" stroke-linejoin="round" d="${pathData(nation)}"/>\n` +
     `<path fill="none" stroke="${COLOURS.border}" stroke-width="0.8" stroke-linejoin="round" d="${pathData(mesh)}"/>\n`;
   if (highlighted) {
     body += `<path fill="${COLOURS.highlight}" stroke="${COLOURS.coast}" stroke-width="1.2" stroke-linejoin="round" d="${pathData(highlighted)}"/>\n`;
+    if (ringedArea(highlighted) < SMALL_STATE_AREA) {
+      const [x, y] = point;
+      body +=
+        `<circle cx="${x}" cy="${y}" r="${RING_RADIUS}" fill="none" stroke="${COLOURS.coast}" stroke-width="5"/>\n` +
+        `<circle cx="${x}" cy="${y}" r="${RING_RADIUS}" fill="none" stroke="${COLOURS.highlight}" stroke-width="3"/>\n`;
+    }
   }
   return svgDocument(US_FRAME.width, US_FRAME.height, `0 0 ${US_FRAME.width} ${US_FRAME.height}`, body);
 }
@@ -179,10 +194,10 @@ export function buildUs({ modulesDir, dataDir, buildDir }) {
   const nation = roundRings(projectRings(topojson.merge(simple, mainland), projection));
   const mesh = roundRings(projectRings(topojson.mesh(simple, { type: "GeometryCollection", geometries: mainland }, (a, b) => a !== b), projection));
 
-  writeIfChanged(path.join(dataDir, "usmap.svg"), mapSvg(nation, mesh, null));
+  writeIfChanged(path.join(dataDir, "usmap.svg"), mapSvg(nation, mesh, null, null));
   const mapSizes = [];
   for (const [abbreviation, rings] of frameRings) {
-    const svg = mapSvg(nation, mesh, rings);
+    const svg = mapSvg(nation, mesh, rings, points.get(abbreviation));
     mapSizes.push(Buffer.byteLength(svg));
     writeIfChanged(path.join(dataDir, `${abbreviation}map.svg`), svg);
   }
