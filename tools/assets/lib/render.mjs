@@ -28,7 +28,7 @@ export function quantizePng(pngIn, pngOut) {
   run("pngquant", ["--strip", "--speed", "1", "--output", pngOut, "256", pngIn]);
 }
 
-// Uncompressed 8-bit BMP3: every reader, old or new, takes it.
+// 8-bit palette BMP3 (ImageMagick run-length encodes it; Qt reads that).
 export function pngToBmp(pngIn, bmpOut, background) {
   run(CONVERT, [pngIn, "-background", background, "-alpha", "remove", "-alpha", "off", "-colors", "256", "-type", "Palette", `BMP3:${bmpOut}`]);
 }

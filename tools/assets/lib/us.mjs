@@ -145,12 +145,18 @@ function mapSvg(nation, mesh, highlighted, point) {
   return svgDocument(US_FRAME.width, US_FRAME.height, `0 0 ${US_FRAME.width} ${US_FRAME.height}`, body);
 }
 
-function insetSvg(rect, rings, fill) {
+// The inset bitmaps are drawn from geometry projected straight at pixel
+// scale, so their coastlines keep the detail the whole-unit outlines lose.
+function insetSvg(rect, rings, fill, k) {
+  const x = rect.x * k;
+  const y = rect.y * k;
+  const w = rect.w * k;
+  const h = rect.h * k;
   const body =
-    `<rect x="${rect.x}" y="${rect.y}" width="${rect.w}" height="${rect.h}" fill="${COLOURS.background}"/>\n` +
-    `<path fill="${fill}" stroke="${COLOURS.coast}" stroke-width="0.8" stroke-linejoin="round" d="${pathData(rings)}"/>\n` +
-    `<rect x="${rect.x + 0.5}" y="${rect.y + 0.5}" width="${rect.w - 1}" height="${rect.h - 1}" fill="none" stroke="${COLOURS.insetFrame}" stroke-width="1"/>\n`;
-  return svgDocument(rect.w, rect.h, `${rect.x} ${rect.y} ${rect.w} ${rect.h}`, body);
+    `<rect x="${x}" y="${y}" width="${w}" height="${h}" fill="${COLOURS.background}"/>\n` +
+    `<path fill="${fill}" stroke="${COLOURS.coast}" stroke-width="${0.8 * k}" stroke-linejoin="round" d="${pathData(rings)}"/>\n` +
+    `<rect x="${x + k / 2}" y="${y + k / 2}" width="${w - k}" height="${h - k}" fill="none" stroke="${COLOURS.insetFrame}" stroke-width="${k}"/>\n`;
+  return svgDocument(w, h, `${x} ${y} ${w} ${h}`, body);
 }
 
 // Builds every United States picture into dataDir and returns the map
@@ -210,6 +216,11 @@ export function buildUs({ modulesDir, dataDir, buildDir }) {
     const rings = roundRings(projectRings(topojson.feature(insetSimple, geometry), insetProj));
     frameRings.set(abbreviation, rings);
     points.set(abbreviation, mapPoint(rawFeature(geometry), insetProj));
+    const k = INSET_PIXELS_PER_UNIT;
+    const pixelProj = insetProjection(abbreviation)
+      .scale(insetProj.scale() * k)
+      .translate(insetProj.translate().map((v) => v * k));
+    const pixelRings = roundRings(projectRings(topojson.feature(simplifiedAt(topology, pixelProj.scale()), geometry), pixelProj));
     const lower = abbreviation.toLowerCase();
     for (const [variant, fill] of [
       ["blue", COLOURS.plain],
@@ -217,8 +228,8 @@ export function buildUs({ modulesDir, dataDir, buildDir }) {
     ]) {
       const svgFile = path.join(buildDir, `${lower}${variant}.svg`);
       const pngFile = path.join(buildDir, `${lower}${variant}.png`);
-      fs.writeFileSync(svgFile, insetSvg(rect, rings, fill));
-      svgToPng(svgFile, pngFile, { width: rect.w * INSET_PIXELS_PER_UNIT, height: rect.h * INSET_PIXELS_PER_UNIT });
+      fs.writeFileSync(svgFile, insetSvg(rect, pixelRings, fill, k));
+      svgToPng(svgFile, pngFile, { width: rect.w * k, height: rect.h * k });
       pngToBmp(pngFile, path.join(dataDir, `${lower}${variant}.bmp`), COLOURS.background);
     }
   }
