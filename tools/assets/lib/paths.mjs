@@ -1,31 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Turns projected geometry into rings of whole-number frame points and
-// compact SVG path data.
-
-import { geoPath } from "d3-geo";
-
-// Rings as d3 streams them through a projection, in frame units (floats).
-// Each ring carries `closed` so polygons and border lines share one collector.
-export function projectRings(geojson, projection) {
-  const rings = [];
-  let current = null;
-  const context = {
-    moveTo(x, y) {
-      current = [[x, y]];
-      current.closed = false;
-      rings.push(current);
-    },
-    lineTo(x, y) {
-      current.push([x, y]);
-    },
-    closePath() {
-      current.closed = true;
-    },
-    arc() {},
-  };
-  geoPath(projection, context)(geojson);
-  return rings;
-}
+// Rings of whole-number frame points: rounding, SVG path data and the
+// even-odd hit test. Plain functions, no packages needed.
 
 export function signedArea(ring) {
   let sum = 0;

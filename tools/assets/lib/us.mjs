@@ -10,7 +10,8 @@ import { presimplify, simplify, sphericalTriangleArea } from "topojson-simplify"
 import { geoAlbers, geoCentroid, geoConicEqualArea, geoPath } from "d3-geo";
 import polylabel from "polylabel";
 import { STATES, INSET_STATES } from "./states.mjs";
-import { insideRings, orderLargestFirst, pathData, projectRings, ringsForJson, roundRings, signedArea } from "./paths.mjs";
+import { insideRings, orderLargestFirst, pathData, ringsForJson, roundRings, signedArea } from "./paths.mjs";
+import { projectRings } from "./project.mjs";
 import { pngToBmp, svgToPng, writeIfChanged } from "./render.mjs";
 
 export const US_FRAME = { width: 960, height: 600 };

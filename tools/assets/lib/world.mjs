@@ -8,7 +8,8 @@ import * as topojson from "topojson-client";
 import { presimplify, simplify, sphericalTriangleArea } from "topojson-simplify";
 import { geoContains, geoEqualEarth } from "d3-geo";
 import { mapPoint } from "./us.mjs";
-import { insideRings, pathData, projectRings, ringsForJson, roundRings } from "./paths.mjs";
+import { insideRings, pathData, ringsForJson, roundRings } from "./paths.mjs";
+import { projectRings } from "./project.mjs";
 import { writeIfChanged } from "./render.mjs";
 
 export const WORLD_FRAME = { width: 1000, height: 520 };

@@ -8,7 +8,7 @@ import { itemSpans, itemText, mapRecords, setNumbers } from "../lib/datfile.mjs"
 import { countryFlagFile, ordinal, portraitFile, stateFlagFile } from "../lib/names.mjs";
 import { insideRings, pathData, roundRing, roundRings } from "../lib/paths.mjs";
 import { initials, portraitCards, readPresidencies, termYears } from "../lib/portraits.mjs";
-import { placeCountryPoints, placeStatePoints } from "../pictures.mjs";
+import { placeCountryPoints, placeStatePoints } from "../lib/points.mjs";
 
 test("items of a line: quoted commas and doubled quotes stay inside one item", () => {
   const line = '"A, B","say ""hi""",12,-3.5,"x"';
