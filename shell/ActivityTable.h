@@ -19,3 +19,9 @@ struct ActivityEntry {
 
 // The fifteen activities, in menu order; defined once, beside main().
 QList<ActivityEntry> Activities();
+
+using ActivityOpener = std::function<ActivityWindow *()>;
+// The card games share one button: it opens the game of the card game setting (1 War,
+// 2 Concentration, 3 Blackjack); any other value opens nothing.
+ActivityOpener CardGameOpener(ActivityOpener war, ActivityOpener concentration,
+                              ActivityOpener blackjack);

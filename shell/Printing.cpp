@@ -22,15 +22,27 @@ QString PrintDocument::creditLine()
 
 void PrintDocument::setFont(const QString &family, int points)
 {
-    m_font = QFont(family);
-    m_font.setStyleHint(QFont::TypeWriter);
+    m_fineFont = QFont(family);
+    m_fineFont.setStyleHint(QFont::TypeWriter);
     // Page units are hundredths of an inch, a point is a 72nd.
-    m_font.setPixelSize(qMax(1, qRound(points * 100.0 / 72.0)));
+    m_fineFont.setPixelSize(qMax(1, qRound(points * 100.0 * Fine / 72.0)));
+}
+
+QFont PrintDocument::font() const
+{
+    QFont coarse = m_fineFont;
+    coarse.setPixelSize(qMax(1, qRound(double(m_fineFont.pixelSize()) / Fine)));
+    return coarse;
+}
+
+double PrintDocument::lineSpacing() const
+{
+    return QFontMetricsF(m_fineFont).lineSpacing() / Fine;
 }
 
 int PrintDocument::charsPerLine() const
 {
-    const double width = QFontMetricsF(m_font).horizontalAdvance(QLatin1Char('H'));
+    const double width = QFontMetricsF(m_fineFont).horizontalAdvance(QLatin1Char('H')) / Fine;
     return width > 0 ? qMax(1, int(std::floor(TextWidth / width))) : 65;
 }
 
@@ -56,7 +68,7 @@ void PrintDocument::addDrawing(int height, Drawing drawing)
 
 QList<QList<PrintDocument::Placed>> PrintDocument::layOut() const
 {
-    const int lineHeight = qCeil(QFontMetricsF(m_font).lineSpacing());
+    const int lineHeight = qCeil(lineSpacing());
     const int width = charsPerLine();
     QList<QList<Placed>> pages;
     int y = 0;
@@ -101,19 +113,23 @@ void RenderDocument(const PrintDocument &document, QPagedPaintDevice &device)
             device.newPage();
         painter.setWindow(0, 0, PrintDocument::PageWidth, PrintDocument::PageHeight);
         painter.setViewport(0, 0, device.width(), device.height());
-        painter.setFont(document.font());
         painter.setPen(Qt::black);
-        const QFontMetricsF metrics(document.font());
+        const QFontMetricsF metrics(document.fineFont());
         for (const auto &item : pages[p]) {
             if (item.drawing) {
                 painter.save();
+                painter.setFont(document.font());
                 item.drawing(painter, QRect(PrintDocument::Left, item.y, PrintDocument::TextWidth,
                                             item.height));
                 painter.restore();
-                painter.setFont(document.font());
             } else if (!item.text.isEmpty()) {
-                painter.drawText(QPointF(PrintDocument::Left, item.y + metrics.ascent()),
+                painter.save();
+                painter.scale(1.0 / PrintDocument::Fine, 1.0 / PrintDocument::Fine);
+                painter.setFont(document.fineFont());
+                painter.drawText(QPointF(PrintDocument::Left * PrintDocument::Fine,
+                                         item.y * PrintDocument::Fine + metrics.ascent()),
                                  item.text);
+                painter.restore();
             }
         }
     }

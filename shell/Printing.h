@@ -32,7 +32,12 @@ public:
 
     // The printing font: a family and a size in points turned into page units.
     void setFont(const QString &family, int points);
-    QFont font() const { return m_font; }
+    QFont font() const;
+    // The same font ten times larger, for text drawn at a tenth of the scale: page units
+    // are too coarse for the exact size of a 12-point letter.
+    QFont fineFont() const { return m_fineFont; }
+    static constexpr int Fine = 10;
+    double lineSpacing() const;
     // Characters per line: Int(650 / width of "H") in the printing font.
     int charsPerLine() const;
 
@@ -61,7 +66,7 @@ private:
     };
     QString m_title;
     QString m_continued;
-    QFont m_font;
+    QFont m_fineFont;
     QList<Block> m_blocks;
 };
 

@@ -3,11 +3,6 @@
 
 #include <QFile>
 
-bool operator==(const Settings::MathRacePlayer &a, const Settings::MathRacePlayer &b)
-{
-    return a.name == b.name && a.type == b.type && a.largest == b.largest && a.clock == b.clock;
-}
-
 namespace SettingsFile {
 
 namespace {

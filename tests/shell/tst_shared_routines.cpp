@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/Random.h"
+#include "shell/Shuffle.h"
+#include "shell/SoundCode.h"
+#include "shell/TextWrap.h"
+
+#include <algorithm>
+#include <QTest>
+
+class SharedRoutinesTest : public QObject {
+    Q_OBJECT
+private slots:
+    void shuffleIsAPermutationAndLeavesElementZero()
+    {
+        for (qint16 n : {2, 3, 5, 14, 50, 52, 100}) {
+            for (qint64 seed : {0, 1, 42, 30000, -7}) {
+                Generator random(seed);
+                QList<qint16> order(n + 3, qint16(-99));
+                Shuffle(n, order, random);
+                QCOMPARE(order[0], qint16(-99));
+                QCOMPARE(order[n + 1], qint16(-99));
+                QList<qint16> sorted = order.mid(1, n);
+                std::sort(sorted.begin(), sorted.end());
+                for (qint16 i = 1; i <= n; ++i)
+                    QCOMPARE(sorted[i - 1], i);
+            }
+        }
+    }
+
+    void shuffleOfNoneOrOneDrawsNothing()
+    {
+        ScriptedCounter counter;
+        QList<qint16> one{7, 9};
+        Shuffle(1, one, counter);
+        QCOMPARE(one, (QList<qint16>{7, 1}));
+        QList<qint16> none{7, 9};
+        Shuffle(0, none, counter);
+        QCOMPARE(none, (QList<qint16>{7, 9}));
+        QCOMPARE(counter.draws, 0);
+    }
+
+    void shuffleUsesEveryOrderEvenly()
+    {
+        // All six orders of three should come up about equally often; a biased exchange
+        // (drawing k from 1..N every time) would not.
+        Generator random(99);
+        QHash<QString, int> seen;
+        QList<qint16> order(4);
+        for (int i = 0; i < 60000; ++i) {
+            Shuffle(3, order, random);
+            ++seen[QStringLiteral("%1%2%3").arg(order[1]).arg(order[2]).arg(order[3])];
+        }
+        QCOMPARE(seen.size(), 6);
+        for (int count : std::as_const(seen))
+            QVERIFY2(count > 9400 && count < 10600, qPrintable(QString::number(count)));
+    }
+
+    void generatorIsReproducibleAndInRange()
+    {
+        Generator a(12345), b(12345), c(12346);
+        bool differs = false;
+        for (int i = 0; i < 10000; ++i) {
+            const double x = a.next();
+            QVERIFY(x >= 0.0 && x < 1.0);
+            QCOMPARE(x, b.next());
+            differs = differs || x != c.next();
+        }
+        QVERIFY(differs);
+        // The sequence is part of every Stop Thief case: it must never change between builds.
+        Generator fixed(0);
+        QCOMPARE(QString::number(fixed.next(), 'f', 12), QStringLiteral("0.601262999418"));
+    }
+
+    void soundCode_data()
+    {
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<QString>("code");
+        QTest::newRow("Smith") << "Smith"
+                               << "S53";
+        QTest::newRow("Tennessee") << "Tennessee"
+                                   << "T52";
+        QTest::newRow("Pfizer") << "Pfizer"
+                                << "P126";
+        QTest::newRow("Ashcraft") << "Ashcraft"
+                                  << "A22613";
+        QTest::newRow("empty") << ""
+                               << "";
+        QTest::newRow("one small letter") << "a"
+                                          << "A";
+        QTest::newRow("lower case") << "smith"
+                                    << "S53";
+        QTest::newRow("digit first") << "4th"
+                                     << "43";
+        QTest::newRow("blanks and marks skipped") << "New York"
+                                                  << "N62";
+        QTest::newRow("mark keeps previous code") << "Mc-Cain"
+                                                  << "M25";
+        QTest::newRow("vowel lets code repeat") << "Tutu"
+                                                << "T3";
+        QTest::newRow("no vowel between") << "Jackson"
+                                          << "J25";
+        QTest::newRow("long word not cut") << "Massachusetts"
+                                           << "M22232";
+        QTest::newRow("accented letters skipped") << "Québec"
+                                                  << "Q12";
+    }
+    void soundCode()
+    {
+        QFETCH(QString, word);
+        QFETCH(QString, code);
+        QCOMPARE(SoundCode(word), code);
+    }
+
+    void soundCodeMatchesSoundAlikes()
+    {
+        QCOMPARE(SoundCode(QStringLiteral("Sacramento")), SoundCode(QStringLiteral("Sakramento")));
+        QCOMPARE(SoundCode(QStringLiteral("Phoenix")), SoundCode(QStringLiteral("Pheonix")));
+        QVERIFY(SoundCode(QStringLiteral("Boston")) != SoundCode(QStringLiteral("Austin")));
+    }
+
+    void wordWrapBreaksAtBlanks()
+    {
+        QCOMPARE(WordWrap(QStringLiteral("the quick brown fox jumps"), 10),
+                 (QStringList{"the quick", "brown fox", "jumps"}));
+        QCOMPARE(WordWrap(QStringLiteral("exactly ten"), 11), (QStringList{"exactly ten"}));
+        QCOMPARE(WordWrap(QStringLiteral("one\n\ntwo"), 20), (QStringList{"one", "", "two"}));
+        QCOMPARE(WordWrap(QStringLiteral("abcdefghijkl xy"), 5),
+                 (QStringList{"abcde", "fghij", "kl xy"}));
+        QCOMPARE(WordWrap(QString(), 5), (QStringList{""}));
+        for (const QString &line : WordWrap(QString(500, u'w') + QStringLiteral(" a b c"), 65))
+            QVERIFY(line.size() <= 65);
+    }
+
+private:
+    // Counts draws, so a test can prove that nothing was drawn.
+    class ScriptedCounter final : public RandomSource {
+    public:
+        double next() override
+        {
+            ++draws;
+            return 0.5;
+        }
+        void seed(qint64) override {}
+        int draws = 0;
+    };
+};
+
+QTEST_GUILESS_MAIN(SharedRoutinesTest)
+#include "tst_shared_routines.moc"
