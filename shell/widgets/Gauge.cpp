@@ -56,8 +56,7 @@ void Gauge::setOrientation(Qt::Orientation orientation)
 QColor Gauge::levelColour(int percent)
 {
     const int level = qBound(0, percent, 100);
-    return level >= 50 ? Blend(Half, Full, (level - 50) / 50.0)
-                       : Blend(Empty, Half, level / 50.0);
+    return level >= 50 ? Blend(Half, Full, (level - 50) / 50.0) : Blend(Empty, Half, level / 50.0);
 }
 
 void Gauge::updateAccessibleText()
@@ -106,8 +105,7 @@ void Gauge::paintEvent(QPaintEvent *)
         p.setFont(bold);
         p.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled,
                                  QPalette::WindowText));
-        p.drawText(QRect(0, 0, width(), fontMetrics().height() + 6), Qt::AlignCenter,
-                   m_caption);
+        p.drawText(QRect(0, 0, width(), fontMetrics().height() + 6), Qt::AlignCenter, m_caption);
     }
 
     const QRect panel = panelRect();
@@ -132,8 +130,8 @@ void Gauge::paintEvent(QPaintEvent *)
         fill.setWidth(fill.width() * m_percent / 100.0);
     if (m_percent > 0 && fill.width() > 0 && fill.height() > 0) {
         const QColor colour = levelColour(m_percent);
-        QLinearGradient shine(fill.topLeft(), m_orientation == Qt::Vertical ? fill.topRight()
-                                                                             : fill.bottomLeft());
+        QLinearGradient shine(fill.topLeft(),
+                              m_orientation == Qt::Vertical ? fill.topRight() : fill.bottomLeft());
         shine.setColorAt(0, colour.lighter(135));
         shine.setColorAt(0.45, colour);
         shine.setColorAt(1, colour.darker(125));

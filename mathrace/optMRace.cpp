@@ -1,0 +1,245 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "optMRace.h"
+
+#include "Problem.h"
+#include "Race.h"
+#include "shell/Settings.h"
+#include "shell/WindowUtil.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace {
+const char *const TypeCaptions[] = {"Addition", "Subtraction", "Multiplication", "Division",
+                                    "Mixed"};
+const char *const ClockCaptions[] = {"Slow", "Medium", "Fast"};
+constexpr int Types = 5;
+constexpr int Clocks = 3;
+
+QLabel *Heading(const QString &text, QWidget *parent)
+{
+    auto *label = new QLabel(text, parent);
+    QFont f = label->font();
+    f.setBold(true);
+    label->setFont(f);
+    label->setStyleSheet(QStringLiteral("color: #0D47A1;"));
+    return label;
+}
+} // namespace
+
+optMRace::optMRace(QWidget *parent) : QDialog(parent)
+{
+    setObjectName(QStringLiteral("optMRace"));
+    setWindowTitle(tr("Math Race Options"));
+    QFont base(QStringLiteral("Comic Sans MS"));
+    base.setPointSize(14);
+    setFont(base);
+    setStyleSheet(QStringLiteral(
+        "optMRace { background: #E3F2FD; }"
+        "QGroupBox { background: white; border: 2px solid #90CAF9; border-radius: 12px;"
+        " margin-top: 1.4em; padding: 10px; font-weight: bold; }"
+        "QGroupBox:disabled { background: #ECEFF1; border-color: #CFD8DC; }"
+        "QGroupBox::title { subcontrol-origin: margin; left: 14px; padding: 0 6px;"
+        " color: #0D47A1; }"
+        "QScrollBar:horizontal { height: 26px; }"));
+
+    auto *playersBox =
+        Named(new QGroupBox(tr("How many players?"), this), QStringLiteral("fraPlayers"));
+    auto *playersRow = new QHBoxLayout(playersBox);
+    auto *playersGroup = new QButtonGroup(this);
+    for (int i = 0; i < Race::MaxPlayers; ++i) {
+        const QString caption = i == 0 ? tr("&1 Player") : tr("&%1 Players").arg(i + 1);
+        auto *button = Named(new QRadioButton(caption, playersBox), ArrayName("optPlayers", i));
+        playersGroup->addButton(button, i);
+        playersRow->addWidget(button);
+        optPlayers.append(button);
+    }
+    playersRow->addStretch();
+
+    auto *grid = new QGridLayout;
+    grid->setSpacing(14);
+    for (int i = 0; i < Race::MaxPlayers; ++i)
+        grid->addWidget(makePlayerFrame(i), i / 2, i % 2);
+
+    cmdOK = Named(new QPushButton(tr("OK"), this), QStringLiteral("cmdOK"));
+    ScaleFont(cmdOK, 1.15, true);
+    cmdOK->setMinimumSize(140, 48);
+    cmdOK->setDefault(true);
+    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(18, 14, 18, 14);
+    layout->setSpacing(12);
+    layout->addWidget(playersBox);
+    layout->addLayout(grid, 1);
+    layout->addWidget(cmdOK, 0, Qt::AlignCenter);
+
+    loadSettings();
+    connect(playersGroup, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
+        if (checked)
+            onPlayersChosen(id);
+    });
+    Settings::MathRace &race = TheSettings().mathRace;
+    const int players = qBound(1, int(race.players), int(Race::MaxPlayers));
+    optPlayers[players - 1]->setChecked(true);
+    onPlayersChosen(players - 1);
+    cmdOK->setFocus();
+}
+
+QGroupBox *optMRace::makePlayerFrame(int player)
+{
+    auto *frame =
+        Named(new QGroupBox(tr("Player %1").arg(player + 1), this), ArrayName("Frame2", player));
+    auto *name = Named(new QLineEdit(frame), ArrayName("txtName", player));
+    name->setMaxLength(NameLength);
+    name->setAccessibleName(tr("Name of player %1").arg(player + 1));
+    txtName.append(name);
+
+    auto *types = new QButtonGroup(frame);
+    auto *typeColumn = new QVBoxLayout;
+    typeColumn->setSpacing(2);
+    typeColumn->addWidget(Heading(tr("Problems"), frame));
+    for (int k = 0; k < Types; ++k) {
+        const int index = player * Types + k;
+        auto *button =
+            Named(new QRadioButton(tr(TypeCaptions[k]), frame), ArrayName("optType", index));
+        types->addButton(button, index);
+        typeColumn->addWidget(button);
+        optType.append(button);
+    }
+    typeColumn->addStretch();
+    connect(types, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
+        if (checked)
+            onTypeChosen(id);
+    });
+
+    auto *clocks = new QButtonGroup(frame);
+    auto *clockColumn = new QVBoxLayout;
+    clockColumn->setSpacing(2);
+    clockColumn->addWidget(Heading(tr("Clock"), frame));
+    for (int k = 0; k < Clocks; ++k) {
+        const int index = player * Clocks + k;
+        auto *button =
+            Named(new QRadioButton(tr(ClockCaptions[k]), frame), ArrayName("optClock", index));
+        clocks->addButton(button, index);
+        clockColumn->addWidget(button);
+        optClock.append(button);
+    }
+    connect(clocks, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
+        if (checked)
+            onClockChosen(id);
+    });
+
+    auto *bar = Named(new QScrollBar(Qt::Horizontal, frame), ArrayName("hsbMax", player));
+    bar->setRange(LargestMin, LargestMax);
+    bar->setSingleStep(1);
+    bar->setPageStep(10);
+    bar->setMinimumWidth(150);
+    bar->setFocusPolicy(Qt::StrongFocus);
+    // Right, Up and the wheel turned up make the number bigger.
+    bar->setInvertedControls(false);
+    bar->setAccessibleName(tr("Largest number for player %1").arg(player + 1));
+    hsbMax.append(bar);
+    auto *value = Named(new QLabel(frame), ArrayName("lblMax", player));
+    ScaleFont(value, 1.3, true);
+    value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    value->setMinimumWidth(value->fontMetrics().horizontalAdvance(QStringLiteral("0000")));
+    value->setStyleSheet(QStringLiteral("color: #C62828;"));
+    lblMax.append(value);
+    connect(bar, &QScrollBar::valueChanged, this, [this, player](int v) { onMaxMoved(player, v); });
+
+    clockColumn->addSpacing(8);
+    clockColumn->addWidget(Heading(tr("Largest number"), frame));
+    auto *barRow = new QHBoxLayout;
+    barRow->addWidget(bar, 1);
+    barRow->addWidget(value);
+    clockColumn->addLayout(barRow);
+    clockColumn->addStretch();
+
+    auto *nameRow = new QHBoxLayout;
+    auto *nameLabel = Heading(tr("Name"), frame);
+    nameLabel->setBuddy(name);
+    nameRow->addWidget(nameLabel);
+    nameRow->addWidget(name, 1);
+
+    auto *columns = new QHBoxLayout;
+    columns->setSpacing(18);
+    columns->addLayout(typeColumn);
+    columns->addLayout(clockColumn, 1);
+
+    auto *layout = new QVBoxLayout(frame);
+    layout->setSpacing(8);
+    layout->addLayout(nameRow);
+    layout->addLayout(columns);
+    Frame2.append(frame);
+    return frame;
+}
+
+void optMRace::loadSettings()
+{
+    Settings::MathRace &race = TheSettings().mathRace;
+    for (int i = 0; i < Race::MaxPlayers; ++i) {
+        Settings::MathRacePlayer &p = race.player[size_t(i)];
+        Frame2[i]->setEnabled(false);
+        txtName[i]->setText(p.name);
+        // What the window shows is what the race uses, so values it cannot show are brought
+        // into its ranges here.
+        const int type = qBound(int(Addition), int(p.type), int(MixedType));
+        optType[i * Types + type - 1]->setChecked(true);
+        p.type = qint16(type);
+        const int largest = qBound(LargestMin, int(p.largest), LargestMax);
+        hsbMax[i]->setValue(largest);
+        onMaxMoved(i, largest);
+        const int clock = qBound(1, int(p.clock), Clocks);
+        optClock[i * Clocks + clock - 1]->setChecked(true);
+        p.clock = qint16(clock);
+    }
+}
+
+void optMRace::onPlayersChosen(int index)
+{
+    TheSettings().mathRace.players = qint16(index + 1);
+    for (int i = 0; i < Race::MaxPlayers; ++i)
+        Frame2[i]->setEnabled(i <= index);
+}
+
+void optMRace::onTypeChosen(int index)
+{
+    TheSettings().mathRace.player[size_t(index / Types)].type = qint16(index % Types + 1);
+}
+
+void optMRace::onMaxMoved(int index, int value)
+{
+    TheSettings().mathRace.player[size_t(index)].largest = qint16(value);
+    lblMax[index]->setText(QString::number(value));
+}
+
+void optMRace::onClockChosen(int index)
+{
+    TheSettings().mathRace.player[size_t(index / Clocks)].clock = qint16(index % Clocks + 1);
+}
+
+void optMRace::storeNames()
+{
+    Settings::MathRace &race = TheSettings().mathRace;
+    for (int i = 0; i < Race::MaxPlayers; ++i) {
+        // A blank name would leave an empty lane and an empty line in the results.
+        const QString name = txtName[i]->text();
+        race.player[size_t(i)].name = name.trimmed().isEmpty() ? tr("Player %1").arg(i + 1) : name;
+    }
+}
+
+void optMRace::done(int result)
+{
+    // Closing by the frame or Escape keeps every change too: there is nothing to cancel.
+    storeNames();
+    QDialog::done(result);
+}
