@@ -66,5 +66,7 @@ void ActivityWindow::keyPressEvent(QKeyEvent *event)
         openHelp();
         return;
     }
+    if (PressFocusedButton(this, event))
+        return;
     QWidget::keyPressEvent(event);
 }

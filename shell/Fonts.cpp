@@ -2,12 +2,9 @@
 #include "Fonts.h"
 
 #include <QFont>
-#include <QFontDatabase>
-#include <QStringList>
 
 void InstallFontSubstitutes()
 {
-    const QStringList installed = QFontDatabase::families();
     const struct {
         const char *wanted;
         const char *substitute;
@@ -15,7 +12,8 @@ void InstallFontSubstitutes()
                  {"Courier New", "Liberation Mono"},
                  {"Times New Roman", "Liberation Serif"},
                  {"Arial", "Liberation Sans"}};
+    // A substitute is only used when the font asked for is not installed; asking the font
+    // database first would cost the start-up several milliseconds.
     for (const auto &entry : table)
-        if (!installed.contains(QLatin1String(entry.wanted)))
-            QFont::insertSubstitution(QLatin1String(entry.wanted), QLatin1String(entry.substitute));
+        QFont::insertSubstitution(QLatin1String(entry.wanted), QLatin1String(entry.substitute));
 }

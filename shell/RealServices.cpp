@@ -4,17 +4,16 @@
 #include "HelpWindow.h"
 #include "Preferences.h"
 #include "Printing.h"
+#include "SoundBackend.h"
 
 #include <QApplication>
-#include <QAudioDevice>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLibrary>
 #include <QLoggingCategory>
-#include <QMediaDevices>
 #include <QPrinter>
 #include <QPrintPreviewDialog>
-#include <QSoundEffect>
 #include <QtEndian>
 #include <QThread>
 #include <QToolBar>
@@ -22,72 +21,44 @@
 
 Q_LOGGING_CATEGORY(lcShell, "lumbridle.shell")
 
-// Owns the sound effects; lives on the sound thread.
-class SoundWorker : public QObject {
-    Q_OBJECT
-public slots:
-    void play(const QString &file)
-    {
-        QSoundEffect *&effect = m_effects[file];
-        if (!effect) {
-            effect = new QSoundEffect(this);
-            effect->setSource(QUrl::fromLocalFile(file));
-        }
-        effect->play();
-    }
-    void stop()
-    {
-        for (QSoundEffect *effect : std::as_const(m_effects))
-            effect->stop();
-    }
-
-private:
-    QHash<QString, QSoundEffect *> m_effects;
-};
-
 QtSound::QtSound() = default;
 
-QtSound::~QtSound()
+QtSound::~QtSound() = default;
+
+QString QtSound::modulePath()
 {
-    if (m_thread) {
-        m_thread->quit();
-        m_thread->wait();
-        delete m_thread;
-    }
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/liblumbridle_sound.so");
 }
 
-bool QtSound::ready()
+SoundBackend *QtSound::backend()
 {
-    if (!m_checked) {
-        m_checked = true;
-        m_hasDevice = !QMediaDevices::audioOutputs().isEmpty();
-        if (!m_hasDevice)
+    if (!m_loaded) {
+        m_loaded = true;
+        QLibrary module(modulePath());
+        const auto create = reinterpret_cast<CreateSoundBackend>(module.resolve(SoundBackendEntry));
+        if (create)
+            m_backend.reset(create());
+        else
+            qCInfo(lcShell) << "no audio module, sounds stay silent:" << module.errorString();
+        if (m_backend && !m_backend->available()) {
             qCInfo(lcShell) << "no audio device: sounds stay silent";
+            m_backend.reset();
+        }
     }
-    if (!m_hasDevice)
-        return false;
-    if (!m_thread) {
-        m_thread = new QThread;
-        m_thread->setObjectName(QStringLiteral("sound"));
-        m_worker = new SoundWorker;
-        m_worker->moveToThread(m_thread);
-        QObject::connect(m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
-        m_thread->start();
-    }
-    return true;
+    return m_backend.get();
 }
 
 void QtSound::stop()
 {
-    if (m_worker)
-        QMetaObject::invokeMethod(m_worker, "stop", Qt::QueuedConnection);
+    if (m_backend)
+        m_backend->stop();
 }
 
 void QtSound::play(const QString &file, bool wait)
 {
-    if (Preferences::get().muted || !QFileInfo::exists(file) || !ready())
+    if (Preferences::get().muted || !QFileInfo::exists(file) || !backend())
         return;
-    QMetaObject::invokeMethod(m_worker, "play", Qt::QueuedConnection, Q_ARG(QString, file));
+    m_backend->play(file);
     if (wait)
         Services::clock().delay(waveSeconds(file));
 }
@@ -210,5 +181,3 @@ void HelpBrowserService::showContents(QWidget *)
 {
     window()->showTopic(QString());
 }
-
-#include "RealServices.moc"

@@ -7,13 +7,13 @@
 #include <QHash>
 #include <QPointer>
 
-class QThread;
-class SoundWorker;
-class HelpWindow;
+#include <memory>
 
-// Sounds through Qt Multimedia on a thread of their own, so a pause on the window's thread
-// never holds a sound back. Silent, never an error, when there is no audio device or the
-// sound is muted.
+class HelpWindow;
+class SoundBackend;
+
+// Sounds through the audio module, loaded with the first sound that plays. Silent, never an
+// error, when the module or an audio device is missing or the sound is muted.
 class QtSound final : public SoundService {
 public:
     QtSound();
@@ -24,14 +24,14 @@ public:
 
     // Length of a PCM wave file in seconds, 0 when it cannot be read.
     static double waveSeconds(const QString &file);
+    // Where the audio module is looked for: beside the program.
+    static QString modulePath();
 
 private:
-    bool ready();
+    SoundBackend *backend();
 
-    QThread *m_thread = nullptr;
-    SoundWorker *m_worker = nullptr;
-    bool m_checked = false;
-    bool m_hasDevice = false;
+    std::unique_ptr<SoundBackend> m_backend;
+    bool m_loaded = false;
 };
 
 // Real time for pauses and tick counts.

@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QIcon>
 #include <QLoggingCategory>
+#include <QTimer>
 
 Q_DECLARE_LOGGING_CATEGORY(lcShell)
 
@@ -56,7 +57,10 @@ bool PrepareStart(const QString &dataDir)
 {
     InstallFontSubstitutes();
     SetDataPath(dataDir.isEmpty() ? QCoreApplication::applicationDirPath() : dataDir);
-    QApplication::setWindowIcon(QIcon(DataFile(QStringLiteral("lumbridle.svg"))));
+    // The icon's picture loads once the menu is on screen: nobody waits for it.
+    QTimer::singleShot(0, qApp, [] {
+        QApplication::setWindowIcon(QIcon(DataFile(QStringLiteral("lumbridle.svg"))));
+    });
     Preferences::get().load();
     TheSettings().spaceRaceListName = QStringLiteral("NONE");
     TheSettings().spaceRaceWordCount = 0;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WindowUtil.h"
 
+#include <QAbstractButton>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QWidget>
 
@@ -22,4 +24,15 @@ void ScaleFont(QWidget *widget, double factor, bool bold)
     font.setPointSizeF(font.pointSizeF() * factor);
     font.setBold(bold);
     widget->setFont(font);
+}
+
+bool PressFocusedButton(QWidget *window, QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        return false;
+    auto *button = qobject_cast<QAbstractButton *>(window->focusWidget());
+    if (!button || !button->isEnabled() || !button->isVisible())
+        return false;
+    button->animateClick();
+    return true;
 }

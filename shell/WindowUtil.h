@@ -3,6 +3,7 @@
 
 #include <QString>
 
+class QKeyEvent;
 class QWidget;
 
 // Puts a window in the middle of its screen: ((screen size - window size) / 2).
@@ -20,3 +21,6 @@ inline QString ArrayName(const char *name, int index)
 }
 // Makes a widget's type larger by a factor, for young readers.
 void ScaleFont(QWidget *widget, double factor, bool bold = false);
+// Enter on a focused button presses it, as the space bar does: outside dialogs Qt's buttons
+// leave Enter to their window. Returns whether the key was used.
+bool PressFocusedButton(QWidget *window, QKeyEvent *event);

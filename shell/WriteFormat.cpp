@@ -5,8 +5,41 @@
 #include <limits>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QSaveFile>
+
+namespace {
+// A number as the file form writes it: optional sign, digits, and for real numbers an
+// optional decimal point and exponent. Hand-written because it runs at every start.
+bool isPlainNumber(const QString &text, bool real)
+{
+    qsizetype i = 0;
+    const qsizetype n = text.size();
+    auto digits = [&] {
+        const qsizetype start = i;
+        while (i < n && text[i] >= u'0' && text[i] <= u'9')
+            ++i;
+        return i - start;
+    };
+    if (i < n && (text[i] == u'+' || text[i] == u'-'))
+        ++i;
+    qsizetype count = digits();
+    if (real && i < n && text[i] == u'.') {
+        ++i;
+        count += digits();
+    }
+    if (count == 0)
+        return false;
+    if (real && i < n && (text[i] == u'e' || text[i] == u'E')) {
+        ++i;
+        if (i < n && (text[i] == u'+' || text[i] == u'-'))
+            ++i;
+        const qsizetype exponent = digits();
+        if (exponent == 0 || exponent > 3)
+            return false;
+    }
+    return i == n;
+}
+} // namespace
 
 QString FileError::message() const
 {
@@ -182,9 +215,7 @@ bool WriteReader::readNumber(double &out)
     const WriteItem *item = take("a number");
     if (!item)
         return false;
-    static const QRegularExpression plain(
-        QStringLiteral("^[+-]?(\\d+\\.?\\d*|\\.\\d+)([eE][+-]?\\d{1,3})?$"));
-    if (item->quoted || !plain.match(item->text).hasMatch())
+    if (item->quoted || !isPlainNumber(item->text, true))
         return fail(int(m_line + 1), int(m_item), QStringLiteral("a number was expected"));
     bool ok = false;
     out = item->text.toDouble(&ok);
@@ -198,8 +229,7 @@ bool WriteReader::readInt16(qint16 &out)
     const WriteItem *item = take("a whole number");
     if (!item)
         return false;
-    static const QRegularExpression whole(QStringLiteral("^[+-]?\\d+$"));
-    if (item->quoted || !whole.match(item->text).hasMatch())
+    if (item->quoted || !isPlainNumber(item->text, false))
         return fail(int(m_line + 1), int(m_item), QStringLiteral("a whole number was expected"));
     bool ok = false;
     const qlonglong value = item->text.toLongLong(&ok);

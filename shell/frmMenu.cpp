@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QLoggingCategory>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 Q_DECLARE_LOGGING_CATEGORY(lcShell)
@@ -46,7 +47,6 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
     setPalette(background);
 
     Image1 = Named(new PictureBox(this), QStringLiteral("Image1"));
-    Image1->load(DataFile(QStringLiteral("menu.svg")));
     Image1->setMinimumHeight(150);
 
     auto *title = Named(new QLabel(tr("Pick an activity!"), this), QStringLiteral("lblTitle"));
@@ -162,6 +162,8 @@ void frmMenu::showEvent(QShowEvent *event)
     QWidget::showEvent(event);
     if (!m_centred) {
         m_centred = true;
+        // The buttons come first; drawing the picture would hold back the first frame.
+        QTimer::singleShot(0, this, [this] { Image1->load(DataFile(QStringLiteral("menu.svg"))); });
         if (Preferences::get().fullScreen)
             setWindowState(windowState() | Qt::WindowFullScreen);
         else
@@ -210,6 +212,8 @@ void frmMenu::keyPressEvent(QKeyEvent *event)
     default:
         break;
     }
+    if (PressFocusedButton(this, event))
+        return;
     if (at >= 0 && step != 0) {
         for (int next = at + step; next >= 0 && next < ChoiceCount; next += step)
             if (m_choices[next]->isEnabled()) {

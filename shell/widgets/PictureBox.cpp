@@ -26,6 +26,7 @@ bool PictureBox::load(const QString &file)
             return false;
     }
     m_file = file;
+    m_drawn = QPixmap();
     updateGeometry();
     update();
     return true;
@@ -36,6 +37,7 @@ void PictureBox::clear()
     delete m_svg;
     m_svg = nullptr;
     m_image = QImage();
+    m_drawn = QPixmap();
     m_file.clear();
     update();
 }
@@ -68,15 +70,33 @@ QRectF PictureBox::pictureRect() const
                   fitted);
 }
 
+void PictureBox::resizeEvent(QResizeEvent *event)
+{
+    m_drawn = QPixmap();
+    QWidget::resizeEvent(event);
+}
+
 void PictureBox::paintEvent(QPaintEvent *)
 {
     if (isEmpty())
         return;
+    const QRectF target = pictureRect();
+    const qreal ratio = devicePixelRatioF();
+    const QSize pixels = (target.size() * ratio).toSize();
+    if (pixels.isEmpty())
+        return;
+    if (m_drawn.size() != pixels) {
+        m_drawn = QPixmap(pixels);
+        m_drawn.fill(Qt::transparent);
+        QPainter drawing(&m_drawn);
+        drawing.setRenderHint(QPainter::Antialiasing);
+        drawing.setRenderHint(QPainter::SmoothPixmapTransform);
+        if (m_svg)
+            m_svg->render(&drawing, QRectF(QPointF(0, 0), QSizeF(pixels)));
+        else
+            drawing.drawImage(QRectF(QPointF(0, 0), QSizeF(pixels)), m_image);
+        m_drawn.setDevicePixelRatio(ratio);
+    }
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    if (m_svg)
-        m_svg->render(&painter, pictureRect());
-    else
-        painter.drawImage(pictureRect(), m_image);
+    painter.drawPixmap(target.topLeft(), m_drawn);
 }

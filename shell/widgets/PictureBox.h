@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QImage>
+#include <QPixmap>
 #include <QWidget>
 
 class QSvgRenderer;
@@ -24,9 +25,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QString m_file;
     QImage m_image;
     QSvgRenderer *m_svg = nullptr;
+    QPixmap m_drawn; // the picture drawn at its current size, so repaints only copy it
 };

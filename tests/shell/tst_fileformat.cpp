@@ -78,6 +78,25 @@ private slots:
         }
     }
 
+    void realNumbersFollowThePlainForm()
+    {
+        for (const char *good : {"3.5", "-.5", "2.", "+7", "1e3", "1.5E-2", "0"}) {
+            WriteReader in;
+            double value = 0;
+            QVERIFY2(in.parse(good) && in.readNumber(value), good);
+            QCOMPARE(value, QByteArray(good).toDouble());
+        }
+        for (const char *bad : {"1e", ".", "+", "1.2.3", "e5", "1e1234", "0x10", "1,5e", "inf",
+                                "nan", "1 2"}) {
+            WriteReader in;
+            double value = 0;
+            bool ok = in.parse(bad);
+            while (ok && !in.atEnd())
+                ok = in.readNumber(value);
+            QVERIFY2(!ok, bad);
+        }
+    }
+
     void rejectsBadItems_data()
     {
         QTest::addColumn<QByteArray>("content");

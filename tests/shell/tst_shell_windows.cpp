@@ -12,6 +12,7 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -108,6 +109,13 @@ private slots:
         QVERIFY(menu.isVisible());
         QTest::qWait(0);
         QVERIFY(!activity); // closed activities are gone; the next opening starts afresh
+
+        // Enter on a focused button opens it, for pupils who play by keyboard.
+        menu.cmdChoice(4)->setFocus();
+        QTest::keyClick(&menu, Qt::Key_Return);
+        QTRY_VERIFY(menu.currentActivity());
+        QCOMPARE(menu.currentActivity()->objectName(), QStringLiteral("activity4"));
+        menu.currentActivity()->close();
 
         QVERIFY(!menu.cmdChoice(5)->isEnabled());
         menu.openActivity(5);
@@ -290,6 +298,10 @@ private slots:
         // Without an audio device, or for a missing file, playing is silent and returns.
         QtSound sound;
         sound.play(DataFile(QStringLiteral("missing.wav")), true);
+        sound.stop();
+        // The audio module is built beside the programs and loads; with no device it is silent.
+        QVERIFY(QFileInfo::exists(QtSound::modulePath()));
+        sound.play(DataFile(QStringLiteral("ding.wav")), false);
         sound.stop();
     }
 
