@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Race.h"
 
-Q_LOGGING_CATEGORY(lcMathRace, "lumbridle.mathrace")
+Q_LOGGING_CATEGORY(lcMathRace, "lumbridle.mathrace", QtInfoMsg)
 
 namespace {
 

@@ -13,7 +13,7 @@ namespace {
 constexpr double Kerb = 0.06;     // grass above and below the lanes, as a share of height
 constexpr double CarShare = 0.78; // car height as a share of its lane
 constexpr double CarAspect = 2.0; // the car pictures are twice as wide as tall
-constexpr double FlagRoom = 0.9;  // room after the finish line, in lane heights
+constexpr double FlagRoom = 1.15; // room after the finish line, in lane heights
 
 const QColor Asphalt(0x54, 0x5B, 0x64);
 const QColor AsphaltEmpty(0x7A, 0x80, 0x87);
@@ -150,6 +150,11 @@ double RaceTrack::carWidth() const
     return laneRect(1).height() * CarShare * CarAspect;
 }
 
+double RaceTrack::squareSize() const
+{
+    return qMax(4.0, laneRect(1).height() / 6);
+}
+
 double RaceTrack::startX() const
 {
     return nameWidth() + carWidth() + 6;
@@ -172,8 +177,10 @@ void RaceTrack::placeCars()
         m_cars[size_t(i)]->setGeometry(
             QRectF(nose - carW, lane.center().y() - carH / 2, carW, carH).toRect());
         const double flagH = lane.height() * 0.92;
-        m_flags[size_t(i)]->setGeometry(
-            QRectF(finishX() + 8, lane.top() + lane.height() * 0.04, flagH * 0.8, flagH).toRect());
+        m_flags[size_t(i)]->setGeometry(QRectF(finishX() + 2 * squareSize() + 4,
+                                               lane.top() + lane.height() * 0.04, flagH * 0.8,
+                                               flagH)
+                                            .toRect());
     }
 }
 
@@ -266,7 +273,7 @@ void RaceTrack::paintEvent(QPaintEvent *)
     p.fillRect(QRectF(startX(), road.top(), lineW, road.height()), Qt::white);
 
     // The finish line: two columns of black and white squares.
-    const double square = qMax(4.0, laneH / 6);
+    const double square = squareSize();
     const int rows = int(std::ceil(road.height() / square));
     for (int r = 0; r < rows; ++r) {
         for (int c = 0; c < 2; ++c) {

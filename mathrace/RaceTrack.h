@@ -60,6 +60,8 @@ private:
     void placeCars();
     double nameWidth() const;
     double carWidth() const;
+    // The side of one square of the chequered finish line.
+    double squareSize() const;
     QFont nameFont() const;
 
     int m_racers = 0;

@@ -27,8 +27,12 @@ QPushButton *MakeButton(const QString &caption, const QString &name, const char 
     button->setAutoDefault(true);
     button->setMinimumSize(150, 46);
     button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QFont font(QStringLiteral("Comic Sans MS"));
+    font.setPointSize(14);
+    font.setBold(true);
+    button->setFont(font);
     button->setStyleSheet(
-        QStringLiteral("QPushButton { background: %1; color: white; font-weight: bold;"
+        QStringLiteral("QPushButton { background: %1; color: white;"
                        " border: 3px solid rgba(0,0,0,60); border-radius: 12px;"
                        " padding: 6px 14px; }"
                        "QPushButton:hover { border-color: rgba(0,0,0,120); }"
@@ -90,17 +94,17 @@ frmMRace::frmMRace(QWidget *parent) : ActivityWindow(QStringLiteral("mathrace"),
     lblProblem->setTextFormat(Qt::PlainText);
     lblProblem->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     lblProblem->setStyleSheet(QStringLiteral("color: #0D47A1;"));
-    ScaleFont(lblProblem, 3.6, true);
+    QFont problemFont = font();
+    problemFont.setBold(true);
+    lblProblem->setFont(problemFont);
     // The problem comes and goes each turn; its place stays so nothing else jumps about.
     QSizePolicy keep = lblProblem->sizePolicy();
     keep.setRetainSizeWhenHidden(true);
     lblProblem->setSizePolicy(keep);
 
     txtAnswer = Named(new AnswerBox(problemPanel), QStringLiteral("txtAnswer"));
-    ScaleFont(txtAnswer, 3.0, true);
+    txtAnswer->setFont(problemFont);
     txtAnswer->setAlignment(Qt::AlignCenter);
-    txtAnswer->setFixedWidth(txtAnswer->fontMetrics().horizontalAdvance(QStringLiteral("000000")) +
-                             24);
     txtAnswer->setAccessibleName(tr("Answer"));
     txtAnswer->setStyleSheet(
         QStringLiteral("QLineEdit { background: #FFFDE7; color: #B71C1C; border: 3px solid #FFB300;"
@@ -184,7 +188,24 @@ frmMRace::frmMRace(QWidget *parent) : ActivityWindow(QStringLiteral("mathrace"),
     lblMessage->setText(tr("Press\nNew Race\nto start!"));
     showLineUp();
     resize(1024, 720);
+    sizeProblem();
     cmdNew->setFocus();
+}
+
+void frmMRace::sizeProblem()
+{
+    // The problem is what every player must read at a glance, so it grows with the window.
+    QFont big = lblProblem->font();
+    big.setPixelSize(qBound(40, height() / 11, 120));
+    lblProblem->setFont(big);
+    txtAnswer->setFont(big);
+    txtAnswer->setFixedWidth(QFontMetrics(big).horizontalAdvance(QStringLiteral("00000")) + 40);
+}
+
+void frmMRace::resizeEvent(QResizeEvent *event)
+{
+    ActivityWindow::resizeEvent(event);
+    sizeProblem();
 }
 
 void frmMRace::showLineUp()

@@ -38,7 +38,11 @@ public slots:
     // One tick of Timer1: the first second ends, or the gas drains by a tenth.
     void timer1Tick();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void sizeProblem();
     void onOk();
     void onErase();
     void onNew();

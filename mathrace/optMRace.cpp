@@ -3,6 +3,7 @@
 
 #include "Problem.h"
 #include "Race.h"
+#include "RaceTrack.h"
 #include "shell/Settings.h"
 #include "shell/WindowUtil.h"
 
@@ -24,13 +25,23 @@ const char *const ClockCaptions[] = {"Slow", "Medium", "Fast"};
 constexpr int Types = 5;
 constexpr int Clocks = 3;
 
+QFont BaseFont(double scale = 1, bool bold = false)
+{
+    QFont f(QStringLiteral("Comic Sans MS"));
+    f.setPointSizeF(14 * scale);
+    f.setBold(bold);
+    return f;
+}
+
 QLabel *Heading(const QString &text, QWidget *parent)
 {
     auto *label = new QLabel(text, parent);
-    QFont f = label->font();
-    f.setBold(true);
-    label->setFont(f);
-    label->setStyleSheet(QStringLiteral("color: #0D47A1;"));
+    label->setFont(BaseFont(1, true));
+    // Through the palette, so a heading greys out with its frame.
+    QPalette colours = label->palette();
+    colours.setColor(QPalette::Active, QPalette::WindowText, QColor(0x0D, 0x47, 0xA1));
+    colours.setColor(QPalette::Inactive, QPalette::WindowText, QColor(0x0D, 0x47, 0xA1));
+    label->setPalette(colours);
     return label;
 }
 } // namespace
@@ -39,17 +50,25 @@ optMRace::optMRace(QWidget *parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("optMRace"));
     setWindowTitle(tr("Math Race Options"));
-    QFont base(QStringLiteral("Comic Sans MS"));
-    base.setPointSize(14);
-    setFont(base);
-    setStyleSheet(QStringLiteral(
-        "optMRace { background: #E3F2FD; }"
-        "QGroupBox { background: white; border: 2px solid #90CAF9; border-radius: 12px;"
-        " margin-top: 1.4em; padding: 10px; font-weight: bold; }"
-        "QGroupBox:disabled { background: #ECEFF1; border-color: #CFD8DC; }"
-        "QGroupBox::title { subcontrol-origin: margin; left: 14px; padding: 0 6px;"
-        " color: #0D47A1; }"
-        "QScrollBar:horizontal { height: 26px; }"));
+    setFont(BaseFont());
+    // Each player's frame is headed in the colour of that player's car.
+    QString titles;
+    for (int i = 0; i < Race::MaxPlayers; ++i)
+        titles += QStringLiteral("#Frame2_%1::title { color: %2; }")
+                      .arg(i)
+                      .arg(RaceTrack::carColour(i + 1).darker(115).name());
+    setStyleSheet(
+        titles +
+        QStringLiteral(
+            "optMRace { background: #E3F2FD; }"
+            "QGroupBox { background: white; border: 2px solid #90CAF9; border-radius: 12px;"
+            " margin-top: 1.4em; padding: 10px; font-weight: bold; }"
+            "QGroupBox:disabled { background: #ECEFF1; border-color: #CFD8DC; }"
+            "QGroupBox::title { subcontrol-origin: margin; left: 14px; padding: 0 6px;"
+            " color: #0D47A1; }"
+            "QScrollBar:horizontal { height: 28px; }"
+            "QRadioButton { spacing: 8px; }"
+            "QRadioButton::indicator { width: 20px; height: 20px; }"));
 
     auto *playersBox =
         Named(new QGroupBox(tr("How many players?"), this), QStringLiteral("fraPlayers"));
@@ -62,6 +81,7 @@ optMRace::optMRace(QWidget *parent) : QDialog(parent)
         playersRow->addWidget(button);
         optPlayers.append(button);
     }
+    playersRow->setSpacing(36);
     playersRow->addStretch();
 
     auto *grid = new QGridLayout;
@@ -70,7 +90,7 @@ optMRace::optMRace(QWidget *parent) : QDialog(parent)
         grid->addWidget(makePlayerFrame(i), i / 2, i % 2);
 
     cmdOK = Named(new QPushButton(tr("OK"), this), QStringLiteral("cmdOK"));
-    ScaleFont(cmdOK, 1.15, true);
+    cmdOK->setFont(BaseFont(1.15, true));
     cmdOK->setMinimumSize(140, 48);
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
@@ -81,6 +101,12 @@ optMRace::optMRace(QWidget *parent) : QDialog(parent)
     layout->addWidget(playersBox);
     layout->addLayout(grid, 1);
     layout->addWidget(cmdOK, 0, Qt::AlignCenter);
+
+    // Style sheets break the passing of fonts from frame to contents; give each its own.
+    const auto children = findChildren<QWidget *>();
+    for (QWidget *child : children)
+        if (!child->testAttribute(Qt::WA_SetFont))
+            child->setFont(BaseFont());
 
     loadSettings();
     connect(playersGroup, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
@@ -105,7 +131,7 @@ QGroupBox *optMRace::makePlayerFrame(int player)
 
     auto *types = new QButtonGroup(frame);
     auto *typeColumn = new QVBoxLayout;
-    typeColumn->setSpacing(2);
+    typeColumn->setSpacing(4);
     typeColumn->addWidget(Heading(tr("Problems"), frame));
     for (int k = 0; k < Types; ++k) {
         const int index = player * Types + k;
@@ -123,7 +149,7 @@ QGroupBox *optMRace::makePlayerFrame(int player)
 
     auto *clocks = new QButtonGroup(frame);
     auto *clockColumn = new QVBoxLayout;
-    clockColumn->setSpacing(2);
+    clockColumn->setSpacing(4);
     clockColumn->addWidget(Heading(tr("Clock"), frame));
     for (int k = 0; k < Clocks; ++k) {
         const int index = player * Clocks + k;
@@ -149,10 +175,13 @@ QGroupBox *optMRace::makePlayerFrame(int player)
     bar->setAccessibleName(tr("Largest number for player %1").arg(player + 1));
     hsbMax.append(bar);
     auto *value = Named(new QLabel(frame), ArrayName("lblMax", player));
-    ScaleFont(value, 1.3, true);
+    value->setFont(BaseFont(1.3, true));
     value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     value->setMinimumWidth(value->fontMetrics().horizontalAdvance(QStringLiteral("0000")));
-    value->setStyleSheet(QStringLiteral("color: #C62828;"));
+    QPalette red = value->palette();
+    red.setColor(QPalette::Active, QPalette::WindowText, QColor(0xC6, 0x28, 0x28));
+    red.setColor(QPalette::Inactive, QPalette::WindowText, QColor(0xC6, 0x28, 0x28));
+    value->setPalette(red);
     lblMax.append(value);
     connect(bar, &QScrollBar::valueChanged, this, [this, player](int v) { onMaxMoved(player, v); });
 
