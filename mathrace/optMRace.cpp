@@ -62,7 +62,7 @@ optMRace::optMRace(QWidget *parent) : QDialog(parent)
         QStringLiteral(
             "optMRace { background: #E3F2FD; }"
             "QGroupBox { background: white; border: 2px solid #90CAF9; border-radius: 12px;"
-            " margin-top: 1.4em; padding: 10px; font-weight: bold; }"
+            " margin-top: 1.3em; padding: 6px 10px; font-weight: bold; }"
             "QGroupBox:disabled { background: #ECEFF1; border-color: #CFD8DC; }"
             "QGroupBox::title { subcontrol-origin: margin; left: 14px; padding: 0 6px;"
             " color: #0D47A1; }"
@@ -85,7 +85,7 @@ optMRace::optMRace(QWidget *parent) : QDialog(parent)
     playersRow->addStretch();
 
     auto *grid = new QGridLayout;
-    grid->setSpacing(14);
+    grid->setSpacing(10);
     for (int i = 0; i < Race::MaxPlayers; ++i)
         grid->addWidget(makePlayerFrame(i), i / 2, i % 2);
 
@@ -96,11 +96,15 @@ optMRace::optMRace(QWidget *parent) : QDialog(parent)
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(18, 14, 18, 14);
-    layout->setSpacing(12);
-    layout->addWidget(playersBox);
+    // The count of players sits beside OK, keeping the window short enough for small screens.
+    auto *bottom = new QHBoxLayout;
+    bottom->setSpacing(16);
+    bottom->addWidget(playersBox, 1);
+    bottom->addWidget(cmdOK, 0, Qt::AlignBottom);
+    layout->setContentsMargins(14, 8, 14, 12);
+    layout->setSpacing(8);
     layout->addLayout(grid, 1);
-    layout->addWidget(cmdOK, 0, Qt::AlignCenter);
+    layout->addLayout(bottom);
 
     // Style sheets break the passing of fonts from frame to contents; give each its own.
     const auto children = findChildren<QWidget *>();
@@ -131,7 +135,7 @@ QGroupBox *optMRace::makePlayerFrame(int player)
 
     auto *types = new QButtonGroup(frame);
     auto *typeColumn = new QVBoxLayout;
-    typeColumn->setSpacing(4);
+    typeColumn->setSpacing(1);
     typeColumn->addWidget(Heading(tr("Problems"), frame));
     for (int k = 0; k < Types; ++k) {
         const int index = player * Types + k;
@@ -149,7 +153,7 @@ QGroupBox *optMRace::makePlayerFrame(int player)
 
     auto *clocks = new QButtonGroup(frame);
     auto *clockColumn = new QVBoxLayout;
-    clockColumn->setSpacing(4);
+    clockColumn->setSpacing(1);
     clockColumn->addWidget(Heading(tr("Clock"), frame));
     for (int k = 0; k < Clocks; ++k) {
         const int index = player * Clocks + k;
@@ -185,7 +189,7 @@ QGroupBox *optMRace::makePlayerFrame(int player)
     lblMax.append(value);
     connect(bar, &QScrollBar::valueChanged, this, [this, player](int v) { onMaxMoved(player, v); });
 
-    clockColumn->addSpacing(8);
+    clockColumn->addSpacing(6);
     clockColumn->addWidget(Heading(tr("Largest number"), frame));
     auto *barRow = new QHBoxLayout;
     barRow->addWidget(bar, 1);
@@ -205,7 +209,7 @@ QGroupBox *optMRace::makePlayerFrame(int player)
     columns->addLayout(clockColumn, 1);
 
     auto *layout = new QVBoxLayout(frame);
-    layout->setSpacing(8);
+    layout->setSpacing(6);
     layout->addLayout(nameRow);
     layout->addLayout(columns);
     Frame2.append(frame);
@@ -264,6 +268,12 @@ void optMRace::storeNames()
         const QString name = txtName[i]->text();
         race.player[size_t(i)].name = name.trimmed().isEmpty() ? tr("Player %1").arg(i + 1) : name;
     }
+}
+
+void optMRace::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    CentreOnScreen(this);
 }
 
 void optMRace::done(int result)

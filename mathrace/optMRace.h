@@ -37,6 +37,9 @@ public:
 public slots:
     void done(int result) override;
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     QGroupBox *makePlayerFrame(int player);
     void loadSettings();
