@@ -49,13 +49,24 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
     Image1 = Named(new PictureBox(this), QStringLiteral("Image1"));
     Image1->setMinimumHeight(150);
 
-    auto *title = Named(new QLabel(tr("Pick an activity!"), this), QStringLiteral("lblTitle"));
+    // The name in bright letters, one colour each, above a friendly invitation.
+    const QString name = QStringLiteral("Lumbridle");
+    const char *letterColours[] = {"#E53935", "#FB8C00", "#F9A825", "#43A047", "#1E88E5",
+                                   "#8E24AA", "#E53935", "#FB8C00", "#43A047"};
+    QString letters;
+    for (qsizetype i = 0; i < name.size(); ++i)
+        letters += QStringLiteral("<span style=\"color:%1\">%2</span>")
+                       .arg(QLatin1String(letterColours[i % 9]), name.at(i));
+    auto *title = Named(new QLabel(this), QStringLiteral("lblTitle"));
+    title->setTextFormat(Qt::RichText);
+    title->setText(
+        QStringLiteral("<div align=\"center\"><span style=\"font-size:40pt; font-weight:bold\">"
+                       "%1</span><br><span style=\"font-size:20pt; color:#0D47A1\">%2</span>"
+                       "</div>")
+            .arg(letters, tr("Pick an activity!")));
     QFont titleFont(QStringLiteral("Comic Sans MS"));
-    titleFont.setPointSize(22);
-    titleFont.setBold(true);
     title->setFont(titleFont);
     title->setAlignment(Qt::AlignCenter);
-    title->setStyleSheet(QStringLiteral("color: #0D47A1;"));
 
     QFont choiceFont(QStringLiteral("Comic Sans MS"));
     choiceFont.setPointSize(15);
