@@ -159,7 +159,7 @@ void frmThief::buildControls()
     txtHints = makeReader(QStringLiteral("txtHints"), 15, fraHints);
     txtHints->setPlaceholderText(tr("Press Next Hint to see the first step of the solution."));
     cmdHint = makeButton(tr("Next &Hint"), QStringLiteral("cmdHint"), "#00838F", fraHints);
-    cmdHintOK = makeButton(tr("Close Hin&ts"), QStringLiteral("cmdHintOK"), "#546E7A", fraHints);
+    cmdHintOK = makeButton(tr("Hi&de Hints"), QStringLiteral("cmdHintOK"), "#546E7A", fraHints);
     auto *hintButtons = new QVBoxLayout;
     hintButtons->addWidget(cmdHint);
     hintButtons->addWidget(cmdHintOK);
@@ -249,9 +249,9 @@ void frmThief::buildControls()
     fraPrint = Named(new QWidget(this), QStringLiteral("fraPrint"));
     lblPrintCase = Named(new QLabel(tr("Print:"), fraPrint), QStringLiteral("lblPrintCase"));
     lblPrintCase->setStyleSheet(QStringLiteral("color: #1A237E; font-weight: bold;"));
-    cmdPrintCase = makeButton(tr("Case"), QStringLiteral("cmdPrintCase"), "#5D4037", fraPrint);
-    cmdPrintClues = makeButton(tr("Clues"), QStringLiteral("cmdPrintClues"), "#5D4037", fraPrint);
-    cmdPrintSoln = makeButton(tr("Solution"), QStringLiteral("cmdPrintSoln"), "#5D4037", fraPrint);
+    cmdPrintCase = makeButton(tr("C&ase"), QStringLiteral("cmdPrintCase"), "#5D4037", fraPrint);
+    cmdPrintClues = makeButton(tr("Clu&es"), QStringLiteral("cmdPrintClues"), "#5D4037", fraPrint);
+    cmdPrintSoln = makeButton(tr("Solut&ion"), QStringLiteral("cmdPrintSoln"), "#5D4037", fraPrint);
     auto *printLayout = new QHBoxLayout(fraPrint);
     printLayout->setContentsMargins(0, 0, 0, 0);
     printLayout->addWidget(lblPrintCase);
@@ -361,6 +361,8 @@ void frmThief::fillSuspectNotes()
         setStrikeOut(name, false);
         auto *crossed =
             Named(new QCheckBox(tr("Not the thief"), card), ArrayName("chkRuledOut", s));
+        crossed->setStyleSheet(
+            QStringLiteral("QCheckBox::indicator { width: 20px; height: 20px; }"));
         setType(crossed, this, 13);
         connect(crossed, &QCheckBox::toggled, name, [name](bool on) { setStrikeOut(name, on); });
         grid->addWidget(name, 0, 0, 1, 2);
@@ -403,24 +405,27 @@ bool frmThief::eventFilter(QObject *watched, QEvent *event)
         return ActivityWindow::eventFilter(watched, event);
     auto *key = static_cast<QKeyEvent *>(event);
     const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+    const bool escape = key->key() == Qt::Key_Escape;
     if (watched == txtCNum) {
-        if (enter) {
-            cmdOKCN->click();
+        if (enter || escape) {
+            (enter ? cmdOKCN : cmdCancelCN)->click();
             return true;
         }
+        // Keys that move the focus or edit the box stay free; typed characters must be digits.
         const QString text = key->text();
         const bool editing = key->matches(QKeySequence::Paste) ||
                              key->matches(QKeySequence::Copy) || key->matches(QKeySequence::Cut) ||
                              key->matches(QKeySequence::SelectAll) ||
-                             key->matches(QKeySequence::Undo) || key->key() == Qt::Key_Delete;
+                             key->matches(QKeySequence::Undo) || key->key() == Qt::Key_Delete ||
+                             key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
         if (text.isEmpty() || editing || key->key() == Qt::Key_Backspace ||
             (text.size() == 1 && text[0] >= u'0' && text[0] <= u'9'))
             return false;
         Beep();
         return true;
     }
-    if (enter && optDiff.contains(watched)) {
-        cmdOK->click();
+    if ((enter || escape) && optDiff.contains(watched)) {
+        (enter ? cmdOK : cmdCancel)->click();
         return true;
     }
     return ActivityWindow::eventFilter(watched, event);

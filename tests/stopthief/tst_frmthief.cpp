@@ -197,6 +197,8 @@ void tst_frmthief::oldCaseNumbersAreChecked()
     QCOMPARE(env.sound.beeps(), 4);
     QTest::keyClick(window.txtCNum, Qt::Key_Backspace);
     QCOMPARE(window.txtCNum->text(), QStringLiteral("12"));
+    QTest::keyClick(window.txtCNum, Qt::Key_Tab);
+    QCOMPARE(env.sound.beeps(), 4);
 
     const QList<QPair<QString, QString>> typed{
         {"12", "Case number must have seven digits.  Try again."},
@@ -216,7 +218,11 @@ void tst_frmthief::oldCaseNumbersAreChecked()
     }
     QCOMPARE(env.dialogs.messages.size(), 4);
 
-    window.txtCNum->clear();
+    QTest::keyClick(window.txtCNum, Qt::Key_Escape);
+    QVERIFY(!window.fraCase->isVisible());
+    QVERIFY(window.fraChoice->isVisible());
+    QTest::mouseClick(window.cmdOld, Qt::LeftButton);
+    QVERIFY(window.txtCNum->text().isEmpty());
     QTest::keyClicks(window.txtCNum, QStringLiteral("1000001"));
     QTest::keyClick(window.txtCNum, Qt::Key_Enter);
     QVERIFY(window.currentCase());
