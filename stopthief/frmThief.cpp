@@ -336,8 +336,6 @@ void frmThief::fillSuspectNotes()
         delete item->widget();
         delete item;
     }
-    m_ruledOut.clear();
-    m_noteNames.clear();
     if (!m_case)
         return;
     QCollator collator;
@@ -377,8 +375,6 @@ void frmThief::fillSuspectNotes()
             grid->addWidget(combo, 1 + k / 3, k % 3);
         }
         m_notesLayout->insertWidget(1 + s, card);
-        m_ruledOut.append(crossed);
-        m_noteNames.append(name);
     }
 }
 

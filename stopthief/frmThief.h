@@ -9,8 +9,6 @@
 #include <optional>
 #include <QList>
 
-class QCheckBox;
-class QComboBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
@@ -109,6 +107,4 @@ private:
     QString m_tadaSound;
 
     QVBoxLayout *m_notesLayout = nullptr;
-    QList<QCheckBox *> m_ruledOut;
-    QList<QLabel *> m_noteNames;
 };
