@@ -8,23 +8,38 @@ QStringList WordWrap(const QString &text, int width)
     QString normalised = text;
     normalised.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     for (const QString &paragraph : normalised.split(u'\n')) {
+        // Blanks inside a line are kept as written ("Clue 1:  ..."), and so is the indent of a
+        // paragraph's first line; only the blanks where a line breaks are dropped.
         QString line;
-        for (QString word : paragraph.split(u' ', Qt::SkipEmptyParts)) {
-            while (word.size() > width) {
-                if (!line.isEmpty()) {
-                    lines.append(line);
-                    line.clear();
-                }
-                lines.append(word.left(width));
-                word = word.mid(width);
+        bool firstLine = true;
+        qsizetype i = 0;
+        const qsizetype n = paragraph.size();
+        while (i < n) {
+            const qsizetype spacesStart = i;
+            while (i < n && paragraph[i] == u' ')
+                ++i;
+            const QString spaces = paragraph.mid(spacesStart, i - spacesStart);
+            const qsizetype wordStart = i;
+            while (i < n && paragraph[i] != u' ')
+                ++i;
+            const QString word = paragraph.mid(wordStart, i - wordStart);
+            if (word.isEmpty())
+                break;
+            const QString candidate =
+                line.isEmpty() ? (firstLine ? spaces : QString()) + word : line + spaces + word;
+            if (candidate.size() <= width) {
+                line = candidate;
+                continue;
             }
-            if (line.isEmpty())
-                line = word;
-            else if (line.size() + 1 + word.size() <= width)
-                line += u' ' + word;
-            else {
+            if (!line.isEmpty()) {
                 lines.append(line);
-                line = word;
+                firstLine = false;
+            }
+            line = word;
+            while (line.size() > width) {
+                lines.append(line.left(width));
+                firstLine = false;
+                line = line.mid(width);
             }
         }
         lines.append(line);

@@ -127,6 +127,13 @@ private slots:
         QCOMPARE(WordWrap(QStringLiteral("abcdefghijkl xy"), 5),
                  (QStringList{"abcde", "fghij", "kl xy"}));
         QCOMPARE(WordWrap(QString(), 5), (QStringList{""}));
+        // Blanks inside a line and the indent of a paragraph stay as written.
+        QCOMPARE(WordWrap(QStringLiteral("Clue 1:  Big feet.  The end"), 30),
+                 (QStringList{"Clue 1:  Big feet.  The end"}));
+        QCOMPARE(WordWrap(QStringLiteral("          --- END OF CLUES ---"), 65),
+                 (QStringList{"          --- END OF CLUES ---"}));
+        QCOMPARE(WordWrap(QStringLiteral("  one two  three"), 7),
+                 (QStringList{"  one", "two", "three"}));
         for (const QString &line : WordWrap(QString(500, u'w') + QStringLiteral(" a b c"), 65))
             QVERIFY(line.size() <= 65);
     }
