@@ -108,11 +108,11 @@ void SystemClock::delay(double seconds)
         QThread::msleep(ulong(qMin<qint64>(10, wait - elapsed.elapsed())));
 }
 
-QMessageBox::StandardButton QtDialogs::message(QWidget *parent, const MessageSpec &spec)
+QMessageBox::StandardButton QtDialogs::message(QWidget *parent, const MessageRequest &request)
 {
-    QMessageBox box(spec.icon, spec.title, spec.text, spec.buttons, parent);
-    if (spec.defaultButton != QMessageBox::NoButton)
-        box.setDefaultButton(spec.defaultButton);
+    QMessageBox box(request.icon, request.title, request.text, request.buttons, parent);
+    if (request.defaultButton != QMessageBox::NoButton)
+        box.setDefaultButton(request.defaultButton);
     return QMessageBox::StandardButton(box.exec());
 }
 
@@ -150,9 +150,9 @@ bool QtDialogs::print(QWidget *parent, const PrintDocument &document)
             if (!path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive))
                 path += QLatin1String(".pdf");
             if (!WritePdf(document, path))
-                message(&preview, MessageSpec{QObject::tr("Save as PDF"),
-                                              QObject::tr("The PDF file could not be written."),
-                                              QMessageBox::Critical});
+                message(&preview, MessageRequest{QObject::tr("Save as PDF"),
+                                                 QObject::tr("The PDF file could not be written."),
+                                                 QMessageBox::Critical});
         });
     }
     return preview.exec() == QDialog::Accepted;

@@ -48,7 +48,7 @@ private:
 // Qt's own message boxes, file dialogs and print preview.
 class QtDialogs final : public DialogService {
 public:
-    QMessageBox::StandardButton message(QWidget *parent, const MessageSpec &spec) override;
+    QMessageBox::StandardButton message(QWidget *parent, const MessageRequest &request) override;
     QString openFileName(QWidget *parent, const QString &caption, const QString &folder,
                          const QString &filter) override;
     QString saveFileName(QWidget *parent, const QString &caption, const QString &folder,

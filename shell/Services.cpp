@@ -83,7 +83,7 @@ QMessageBox::StandardButton MsgBox(QWidget *parent, const QString &title, const 
                                    QMessageBox::StandardButton defaultButton)
 {
     return Services::dialogs().message(parent,
-                                       MessageSpec{title, text, icon, buttons, defaultButton});
+                                       MessageRequest{title, text, icon, buttons, defaultButton});
 }
 
 void ShowHelp(QWidget *parent, const QString &topic)

@@ -30,7 +30,7 @@ public:
 };
 
 // What a message box says and offers.
-struct MessageSpec {
+struct MessageRequest {
     QString title;
     QString text;
     QMessageBox::Icon icon = QMessageBox::Information;
@@ -42,7 +42,7 @@ struct MessageSpec {
 class DialogService {
 public:
     virtual ~DialogService() = default;
-    virtual QMessageBox::StandardButton message(QWidget *parent, const MessageSpec &spec) = 0;
+    virtual QMessageBox::StandardButton message(QWidget *parent, const MessageRequest &request) = 0;
     virtual QString openFileName(QWidget *parent, const QString &caption, const QString &folder,
                                  const QString &filter) = 0;
     virtual QString saveFileName(QWidget *parent, const QString &caption, const QString &folder,

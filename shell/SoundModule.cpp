@@ -3,8 +3,8 @@
 // never holds a sound back.
 #include "SoundBackend.h"
 
-#include <QHash>
 #include <QAudioDevice>
+#include <QHash>
 #include <QMediaDevices>
 #include <QSoundEffect>
 #include <QThread>

@@ -148,7 +148,7 @@ void tst_frmthief::confirmationsWhileACaseIsOpen()
     env.dialogs.answers = {QMessageBox::No};
     QTest::mouseClick(window.cmdNew, Qt::LeftButton);
     QCOMPARE(env.dialogs.messages.size(), 1);
-    const MessageSpec asked = env.dialogs.messages.last();
+    const MessageRequest asked = env.dialogs.messages.last();
     QCOMPARE(asked.title, QStringLiteral("New Case"));
     QCOMPARE(asked.text, QStringLiteral("You have not finished the current case.  Do you still "
                                         "want to start a new case?"));
@@ -209,7 +209,7 @@ void tst_frmthief::oldCaseNumbersAreChecked()
     for (const auto &[number, message] : typed) {
         window.txtCNum->setText(number);
         QTest::keyClick(window.txtCNum, Qt::Key_Return);
-        const MessageSpec shown = env.dialogs.messages.last();
+        const MessageRequest shown = env.dialogs.messages.last();
         QCOMPARE(shown.title, QStringLiteral("Invalid Case Number"));
         QCOMPARE(shown.text, message);
         QCOMPARE(shown.icon, QMessageBox::Information);

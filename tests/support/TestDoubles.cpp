@@ -35,12 +35,12 @@ void VirtualClock::delay(double seconds)
         now += qint64(seconds * 1000);
 }
 
-QMessageBox::StandardButton ScriptedDialogs::message(QWidget *, const MessageSpec &spec)
+QMessageBox::StandardButton ScriptedDialogs::message(QWidget *, const MessageRequest &request)
 {
-    messages.append(spec);
+    messages.append(request);
     if (!answers.isEmpty())
         return answers.takeFirst();
-    return spec.defaultButton != QMessageBox::NoButton ? spec.defaultButton : QMessageBox::Ok;
+    return request.defaultButton != QMessageBox::NoButton ? request.defaultButton : QMessageBox::Ok;
 }
 
 QString ScriptedDialogs::openFileName(QWidget *, const QString &, const QString &, const QString &)

@@ -34,7 +34,7 @@ public:
 // Answers message boxes and dialogs from a script and records what was shown.
 class ScriptedDialogs final : public DialogService {
 public:
-    QMessageBox::StandardButton message(QWidget *parent, const MessageSpec &spec) override;
+    QMessageBox::StandardButton message(QWidget *parent, const MessageRequest &request) override;
     QString openFileName(QWidget *, const QString &, const QString &, const QString &) override;
     QString saveFileName(QWidget *, const QString &, const QString &, const QString &) override;
     bool print(QWidget *parent, const PrintDocument &document) override;
@@ -44,7 +44,7 @@ public:
     QList<QMessageBox::StandardButton> answers;
     QStringList openAnswers;
     QStringList saveAnswers;
-    QList<MessageSpec> messages;
+    QList<MessageRequest> messages;
     // Titles of the documents sent to print; each is also written as a PDF to pdfFolder.
     QStringList printed;
     QString pdfFolder;
