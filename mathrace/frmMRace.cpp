@@ -31,16 +31,7 @@ QPushButton *MakeButton(const QString &caption, const QString &name, const char 
     font.setPointSize(14);
     font.setBold(true);
     button->setFont(font);
-    button->setStyleSheet(
-        QStringLiteral("QPushButton { background: %1; color: white;"
-                       " border: 3px solid rgba(0,0,0,60); border-radius: 12px;"
-                       " padding: 6px 14px; }"
-                       "QPushButton:hover { border-color: rgba(0,0,0,120); }"
-                       "QPushButton:pressed { padding-top: 9px; }"
-                       "QPushButton:focus { border: 4px solid #FFD600; }"
-                       "QPushButton:disabled { background: #B0BEC5; color: #ECEFF1;"
-                       " border-color: #B0BEC5; }")
-            .arg(QLatin1String(colour)));
+    StyleBrightButton(button, QColor(QLatin1String(colour)));
     return button;
 }
 
@@ -50,13 +41,7 @@ frmMRace::frmMRace(QWidget *parent) : ActivityWindow(QStringLiteral("mathrace"),
 {
     setObjectName(QStringLiteral("frmMRace"));
     setWindowTitle(tr("Math Race"));
-    QFont base(QStringLiteral("Comic Sans MS"));
-    base.setPointSize(14);
-    setFont(base);
-    setAutoFillBackground(true);
-    QPalette background = palette();
-    background.setColor(QPalette::Window, QColor(0xE1, 0xF5, 0xFE));
-    setPalette(background);
+    applyLook(QColor(0xE1, 0xF5, 0xFE));
 
     m_carSound = DataFile(QStringLiteral("car.wav"));
     m_uhOhSound = DataFile(QStringLiteral("uhoh.wav"));

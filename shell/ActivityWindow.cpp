@@ -33,6 +33,17 @@ void ActivityWindow::openHelp()
     ShowHelp(this, m_helpTopic);
 }
 
+void ActivityWindow::applyLook(const QColor &background)
+{
+    QFont base(QStringLiteral("Comic Sans MS"));
+    base.setPointSize(14);
+    setFont(base);
+    setAutoFillBackground(true);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, background);
+    setPalette(colours);
+}
+
 void ActivityWindow::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);

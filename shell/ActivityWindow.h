@@ -23,6 +23,8 @@ protected:
     // Sets the end button's caption: "&Stop" while something runs, "E&xit" otherwise.
     static void setRunningCaption(QPushButton *button, bool running);
     void openHelp();
+    // The look every activity shares: friendly 14-point lettering on a window of one colour.
+    void applyLook(const QColor &background);
     void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;

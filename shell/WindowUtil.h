@@ -3,7 +3,9 @@
 
 #include <QString>
 
+class QColor;
 class QKeyEvent;
+class QPushButton;
 class QWidget;
 
 // Puts a window in the middle of its screen: ((screen size - window size) / 2).
@@ -24,3 +26,6 @@ void ScaleFont(QWidget *widget, double factor, bool bold = false);
 // Enter on a focused button presses it, as the space bar does: outside dialogs Qt's buttons
 // leave Enter to their window. Returns whether the key was used.
 bool PressFocusedButton(QWidget *window, QKeyEvent *event);
+// The bright, rounded look of the program's big buttons: a strong colour, lettering that
+// stays readable on it, a thick yellow ring when focused and grey when disabled.
+void StyleBrightButton(QPushButton *button, const QColor &colour, int radius = 12);

@@ -84,18 +84,7 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
         button->setEnabled(entry != m_activities.cend() && entry->open);
         if (!button->isEnabled())
             button->setToolTip(tr("This activity is not in this version yet."));
-        const QColor colour(ButtonColours[i]);
-        const bool darkText = colour.lightness() > 150;
-        button->setStyleSheet(
-            QStringLiteral("QPushButton { background: %1; color: %2; border: 3px solid %3;"
-                           " border-radius: 14px; padding: 6px; }"
-                           "QPushButton:hover { background: %4; }"
-                           "QPushButton:pressed { background: %3; }"
-                           "QPushButton:focus { border: 5px solid #FFEB3B; }"
-                           "QPushButton:disabled { background: #CFD8DC; color: #78909C;"
-                           " border-color: #B0BEC5; }")
-                .arg(colour.name(), darkText ? QStringLiteral("#212121") : QStringLiteral("white"),
-                     colour.darker(140).name(), colour.lighter(120).name()));
+        StyleBrightButton(button, QColor(ButtonColours[i]), 14);
         connect(button, &QPushButton::clicked, this, [this, i] { openActivity(i); });
         grid->addWidget(button, i / Columns, i % Columns);
         m_choices.append(button);

@@ -45,15 +45,7 @@ QPushButton *makeButton(const QString &caption, const QString &name, const char 
     QFont bold = parent->font();
     bold.setBold(true);
     button->setFont(bold);
-    button->setStyleSheet(
-        QStringLiteral("QPushButton { background: %1; color: white;"
-                       " border: 3px solid rgba(0,0,0,50); border-radius: 10px;"
-                       " padding: 5px 12px; }"
-                       "QPushButton:hover { border-color: rgba(0,0,0,120); }"
-                       "QPushButton:pressed { padding-top: 8px; }"
-                       "QPushButton:focus { border: 4px solid #FFC400; }"
-                       "QPushButton:disabled { background: #B0BEC5; color: #ECEFF1; }")
-            .arg(QLatin1String(colour)));
+    StyleBrightButton(button, QColor(QLatin1String(colour)));
     return button;
 }
 
@@ -114,13 +106,7 @@ frmThief::frmThief(QWidget *parent) : ActivityWindow(QStringLiteral("stopthief")
 {
     setObjectName(QStringLiteral("frmThief"));
     setWindowTitle(tr("Stop Thief!"));
-    QFont base(QStringLiteral("Comic Sans MS"));
-    base.setPointSize(14);
-    setFont(base);
-    setAutoFillBackground(true);
-    QPalette background = palette();
-    background.setColor(QPalette::Window, QColor(0xFF, 0xF8, 0xE1));
-    setPalette(background);
+    applyLook(QColor(0xFF, 0xF8, 0xE1));
 
     buildControls();
 
