@@ -162,12 +162,33 @@ void frmMenu::showEvent(QShowEvent *event)
     QWidget::showEvent(event);
     if (!m_centred) {
         m_centred = true;
-        // The buttons come first; drawing the picture would hold back the first frame.
-        QTimer::singleShot(0, this, [this] { Image1->load(DataFile(QStringLiteral("menu.svg"))); });
         if (Preferences::get().fullScreen)
             setWindowState(windowState() | Qt::WindowFullScreen);
         else
             CentreOnScreen(this);
+    }
+}
+
+void frmMenu::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    // Lettering grows with the window, so the buttons read as well on a large screen.
+    const double scale = qBound(1.0, qMin(width() / 1000.0, height() / 700.0), 2.5);
+    for (QPushButton *button : std::as_const(m_choices)) {
+        QFont font = button->font();
+        font.setPointSizeF(15 * scale);
+        button->setFont(font);
+    }
+}
+
+void frmMenu::paintEvent(QPaintEvent *event)
+{
+    QWidget::paintEvent(event);
+    // The buttons come first: the picture is drawn right after the first frame, which it
+    // would otherwise hold back by several milliseconds.
+    if (!m_pictureAsked) {
+        m_pictureAsked = true;
+        QTimer::singleShot(0, this, [this] { Image1->load(DataFile(QStringLiteral("menu.svg"))); });
     }
 }
 

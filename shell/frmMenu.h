@@ -27,6 +27,8 @@ public slots:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
@@ -42,5 +44,6 @@ private:
     QPushButton *cmdExit;
     QPointer<ActivityWindow> m_current;
     bool m_centred = false;
+    bool m_pictureAsked = false;
     bool m_closing = false;
 };

@@ -43,6 +43,9 @@ int main(int argc, char *argv[])
             window->resize(size);
             window->show();
             QApplication::processEvents();
+            // A first paint lets windows finish what they draw after it (the menu's picture).
+            window->grab();
+            QApplication::processEvents();
             const QString suffix = size == scene.size ? QString() : QStringLiteral("-fullhd");
             const QString file = QStringLiteral("%1/%2%3.png").arg(out, scene.name, suffix);
             if (window->grab().save(file)) {
