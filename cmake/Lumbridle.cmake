@@ -1,15 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Activities built into the program: one folder each, listed once here.
-set(LUMBRIDLE_ACTIVITIES)
-foreach(dir mathrace stopthief)
-    if(EXISTS ${CMAKE_SOURCE_DIR}/${dir}/CMakeLists.txt)
-        list(APPEND LUMBRIDLE_ACTIVITIES ${dir})
-    endif()
-endforeach()
-set(LUMBRIDLE_ACTIVITY_LIBS)
-foreach(dir IN LISTS LUMBRIDLE_ACTIVITIES)
-    list(APPEND LUMBRIDLE_ACTIVITY_LIBS ${dir})
-endforeach()
+set(LUMBRIDLE_ACTIVITIES mathrace stopthief)
+set(LUMBRIDLE_ACTIVITY_LIBS ${LUMBRIDLE_ACTIVITIES})
 
 # lumbridle_add_activity(name RULES files... WINDOWS files...)
 # Builds <name>_rules (QtCore only, so widgets cannot creep into the rules) and <name> (its windows).
@@ -20,8 +12,6 @@ function(lumbridle_add_activity name)
     target_include_directories(${name}_rules PUBLIC ${CMAKE_SOURCE_DIR})
     add_library(${name} STATIC ${ARG_WINDOWS})
     target_link_libraries(${name} PUBLIC ${name}_rules shell)
-    string(TOUPPER ${name} upper)
-    target_compile_definitions(${name} PUBLIC LUMBRIDLE_HAS_${upper})
 endfunction()
 
 # lumbridle_add_test(name SOURCES files... LIBS libs...)

@@ -24,13 +24,7 @@ int main(int argc, char *argv[])
     const QString filter = argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString();
     QDir().mkpath(out);
 
-    QList<Scene> scenes = shellScenes();
-#ifdef LUMBRIDLE_HAS_MATHRACE
-    scenes += mathraceScenes();
-#endif
-#ifdef LUMBRIDLE_HAS_STOPTHIEF
-    scenes += stopthiefScenes();
-#endif
+    const QList<Scene> scenes = shellScenes() + mathraceScenes() + stopthiefScenes();
     int written = 0;
     for (const Scene &scene : std::as_const(scenes)) {
         if (!filter.isEmpty() && !scene.name.contains(filter))
