@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ActivityWindow.h"
 
-#include "Preferences.h"
 #include "Random.h"
 #include "Services.h"
 #include "WindowUtil.h"
@@ -49,10 +48,7 @@ void ActivityWindow::showEvent(QShowEvent *event)
     QWidget::showEvent(event);
     if (!m_centred) {
         m_centred = true;
-        if (Preferences::get().fullScreen)
-            setWindowState(windowState() | Qt::WindowFullScreen);
-        else
-            CentreOnScreen(this);
+        PlaceOnScreen(this);
     }
 }
 
@@ -69,8 +65,7 @@ void ActivityWindow::closeEvent(QCloseEvent *event)
 void ActivityWindow::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_F11) {
-        Preferences::get().fullScreen = !isFullScreen();
-        setWindowState(windowState() ^ Qt::WindowFullScreen);
+        ToggleFullScreen(this);
         return;
     }
     if (event->key() == Qt::Key_F1) {

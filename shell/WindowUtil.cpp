@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WindowUtil.h"
 
+#include "Preferences.h"
+
 #include <QAbstractButton>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -17,6 +19,20 @@ void CentreOnScreen(QWidget *window)
     const QSize size = window->frameGeometry().size();
     window->move(area.left() + (area.width() - size.width()) / 2,
                  area.top() + (area.height() - size.height()) / 2);
+}
+
+void PlaceOnScreen(QWidget *window)
+{
+    if (Preferences::get().fullScreen)
+        window->setWindowState(window->windowState() | Qt::WindowFullScreen);
+    else
+        CentreOnScreen(window);
+}
+
+void ToggleFullScreen(QWidget *window)
+{
+    Preferences::get().fullScreen = !window->isFullScreen();
+    window->setWindowState(window->windowState() ^ Qt::WindowFullScreen);
 }
 
 void ScaleFont(QWidget *widget, double factor, bool bold)

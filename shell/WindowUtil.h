@@ -10,6 +10,10 @@ class QWidget;
 
 // Puts a window in the middle of its screen: ((screen size - window size) / 2).
 void CentreOnScreen(QWidget *window);
+// A window's first placement: full screen when the pupil chose it (F11), else centred.
+void PlaceOnScreen(QWidget *window);
+// F11: full screen on or off, remembered for the next windows and the next start.
+void ToggleFullScreen(QWidget *window);
 // Sets a widget's object name, the name tests and accessibility tools find it by.
 template <typename T> T *Named(T *widget, const QString &name)
 {

@@ -162,10 +162,7 @@ void frmMenu::showEvent(QShowEvent *event)
     QWidget::showEvent(event);
     if (!m_centred) {
         m_centred = true;
-        if (Preferences::get().fullScreen)
-            setWindowState(windowState() | Qt::WindowFullScreen);
-        else
-            CentreOnScreen(this);
+        PlaceOnScreen(this);
     }
 }
 
@@ -227,8 +224,7 @@ void frmMenu::keyPressEvent(QKeyEvent *event)
         ShowHelpContents(this);
         return;
     case Qt::Key_F11:
-        Preferences::get().fullScreen = !isFullScreen();
-        setWindowState(windowState() ^ Qt::WindowFullScreen);
+        ToggleFullScreen(this);
         return;
     default:
         break;
