@@ -133,40 +133,11 @@ QGroupBox *optMRace::makePlayerFrame(int player)
     name->setAccessibleName(tr("Name of player %1").arg(player + 1));
     txtName.append(name);
 
-    auto *types = new QButtonGroup(frame);
-    auto *typeColumn = new QVBoxLayout;
-    typeColumn->setSpacing(1);
-    typeColumn->addWidget(Heading(tr("Problems"), frame));
-    for (int k = 0; k < Types; ++k) {
-        const int index = player * Types + k;
-        auto *button =
-            Named(new QRadioButton(tr(TypeCaptions[k]), frame), ArrayName("optType", index));
-        types->addButton(button, index);
-        typeColumn->addWidget(button);
-        optType.append(button);
-    }
+    QVBoxLayout *typeColumn = choiceColumn(frame, tr("Problems"), TypeCaptions, Types, player,
+                                           "optType", optType, &optMRace::onTypeChosen);
     typeColumn->addStretch();
-    connect(types, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
-        if (checked)
-            onTypeChosen(id);
-    });
-
-    auto *clocks = new QButtonGroup(frame);
-    auto *clockColumn = new QVBoxLayout;
-    clockColumn->setSpacing(1);
-    clockColumn->addWidget(Heading(tr("Clock"), frame));
-    for (int k = 0; k < Clocks; ++k) {
-        const int index = player * Clocks + k;
-        auto *button =
-            Named(new QRadioButton(tr(ClockCaptions[k]), frame), ArrayName("optClock", index));
-        clocks->addButton(button, index);
-        clockColumn->addWidget(button);
-        optClock.append(button);
-    }
-    connect(clocks, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
-        if (checked)
-            onClockChosen(id);
-    });
+    QVBoxLayout *clockColumn = choiceColumn(frame, tr("Clock"), ClockCaptions, Clocks, player,
+                                            "optClock", optClock, &optMRace::onClockChosen);
 
     auto *bar = Named(new QScrollBar(Qt::Horizontal, frame), ArrayName("hsbMax", player));
     bar->setRange(LargestMin, LargestMax);
@@ -281,4 +252,28 @@ void optMRace::done(int result)
     // Closing by the frame or Escape keeps every change too: there is nothing to cancel.
     storeNames();
     QDialog::done(result);
+}
+
+QVBoxLayout *optMRace::choiceColumn(QWidget *frame, const QString &heading,
+                                    const char *const captions[], int count, int player,
+                                    const char *arrayName, QList<QRadioButton *> &buttons,
+                                    void (optMRace::*chosen)(int))
+{
+    // One player's column of option buttons; button k is element player * count + k.
+    auto *group = new QButtonGroup(frame);
+    auto *column = new QVBoxLayout;
+    column->setSpacing(1);
+    column->addWidget(Heading(heading, frame));
+    for (int k = 0; k < count; ++k) {
+        const int index = player * count + k;
+        auto *button = Named(new QRadioButton(tr(captions[k]), frame), ArrayName(arrayName, index));
+        group->addButton(button, index);
+        column->addWidget(button);
+        buttons.append(button);
+    }
+    connect(group, &QButtonGroup::idToggled, this, [this, chosen](int id, bool checked) {
+        if (checked)
+            (this->*chosen)(id);
+    });
+    return column;
 }

@@ -10,6 +10,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
+class QVBoxLayout;
 class QScrollBar;
 
 // The race options: how many players, and for each one a name, the kind of problems, the
@@ -44,6 +45,9 @@ private:
     QGroupBox *makePlayerFrame(int player);
     void loadSettings();
     void onPlayersChosen(int index);
+    QVBoxLayout *choiceColumn(QWidget *frame, const QString &heading, const char *const captions[],
+                              int count, int player, const char *arrayName,
+                              QList<QRadioButton *> &buttons, void (optMRace::*chosen)(int));
     void onTypeChosen(int index);
     void onMaxMoved(int index, int value);
     void onClockChosen(int index);

@@ -28,25 +28,30 @@ void install(HelpService *help)
     helpOverride = help;
 }
 
+namespace {
+// The installed double, or the real service made on first use.
+template <typename Real, typename Service> Service &chosen(Service *override)
+{
+    static Real real;
+    return override ? *override : real;
+}
+} // namespace
+
 SoundService &sound()
 {
-    static QtSound real;
-    return soundOverride ? *soundOverride : real;
+    return chosen<QtSound>(soundOverride);
 }
 ClockService &clock()
 {
-    static SystemClock real;
-    return clockOverride ? *clockOverride : real;
+    return chosen<SystemClock>(clockOverride);
 }
 DialogService &dialogs()
 {
-    static QtDialogs real;
-    return dialogsOverride ? *dialogsOverride : real;
+    return chosen<QtDialogs>(dialogsOverride);
 }
 HelpService &help()
 {
-    static HelpBrowserService real;
-    return helpOverride ? *helpOverride : real;
+    return chosen<HelpBrowserService>(helpOverride);
 }
 } // namespace Services
 
