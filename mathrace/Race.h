@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Problem.h"
-#include "shell/Settings.h"
+#include "shell/core/Settings.h"
 
 #include <array>
 #include <optional>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "RaceTrack.h"
 
-#include "shell/DataPath.h"
+#include "shell/core/DataPath.h"
 #include "shell/widgets/PictureBox.h"
 #include "shell/WindowUtil.h"
 

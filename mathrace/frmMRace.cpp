@@ -4,7 +4,7 @@
 #include "AnswerBox.h"
 #include "optMRace.h"
 #include "RaceTrack.h"
-#include "shell/DataPath.h"
+#include "shell/core/DataPath.h"
 #include "shell/frmResults.h"
 #include "shell/Services.h"
 #include "shell/widgets/Gauge.h"

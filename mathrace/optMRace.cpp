@@ -4,7 +4,7 @@
 #include "Problem.h"
 #include "Race.h"
 #include "RaceTrack.h"
-#include "shell/Settings.h"
+#include "shell/core/Settings.h"
 #include "shell/WindowUtil.h"
 
 #include <QButtonGroup>

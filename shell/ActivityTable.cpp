@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ActivityTable.h"
 
-#include "Settings.h"
+#include "shell/core/Settings.h"
 
 ActivityOpener CardGameOpener(ActivityOpener war, ActivityOpener concentration,
                               ActivityOpener blackjack)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ActivityWindow.h"
 
-#include "Random.h"
+#include "shell/core/Random.h"
 #include "Services.h"
 #include "WindowUtil.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "HelpWindow.h"
 
-#include "DataPath.h"
+#include "shell/core/DataPath.h"
 #include "WindowUtil.h"
 
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Printing.h"
 
-#include "TextWrap.h"
+#include "shell/core/TextWrap.h"
 
 #include <cmath>
 #include <QFile>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Startup.h"
 
-#include "DataPath.h"
+#include "shell/core/DataPath.h"
 #include "Fonts.h"
 #include "Preferences.h"
 #include "Services.h"
-#include "Settings.h"
-#include "SettingsStore.h"
+#include "shell/core/Settings.h"
+#include "shell/core/SettingsStore.h"
 
 #include <QApplication>
 #include <QDir>

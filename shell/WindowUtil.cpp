@@ -4,6 +4,8 @@
 #include "Preferences.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
+#include <QAccessibleEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPushButton>
@@ -68,4 +70,11 @@ void StyleBrightButton(QPushButton *button, const QColor &colour, int radius)
             .arg(colour.name(), darkText ? QStringLiteral("#212121") : QStringLiteral("white"),
                  colour.darker(140).name(), colour.lighter(115).name())
             .arg(radius));
+}
+
+void Announce(QWidget *source, const QString &text)
+{
+    source->setAccessibleDescription(text);
+    QAccessibleEvent alert(source, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }

@@ -2,7 +2,7 @@
 #include "frmInput.h"
 
 #include "Services.h"
-#include "Settings.h"
+#include "shell/core/Settings.h"
 #include "WindowUtil.h"
 
 #include <QCloseEvent>

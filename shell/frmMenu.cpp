@@ -2,10 +2,10 @@
 #include "frmMenu.h"
 
 #include "ActivityWindow.h"
-#include "DataPath.h"
+#include "shell/core/DataPath.h"
 #include "Preferences.h"
 #include "Services.h"
-#include "SettingsStore.h"
+#include "shell/core/SettingsStore.h"
 #include "widgets/PictureBox.h"
 #include "WindowUtil.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmResults.h"
 
-#include "DataPath.h"
+#include "shell/core/DataPath.h"
 #include "Services.h"
 #include "widgets/PictureBox.h"
 #include "WindowUtil.h"

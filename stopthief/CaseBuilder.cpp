@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CaseBuilder.h"
 
-#include "shell/Shuffle.h"
+#include "shell/core/Shuffle.h"
 
 #include <functional>
 #include <utility>

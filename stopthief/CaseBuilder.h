@@ -5,7 +5,7 @@
 #include "CaseNumber.h"
 #include "ThiefData.h"
 
-#include "shell/Random.h"
+#include "shell/core/Random.h"
 
 // Builds the case of a case number from the word tables. It owns the generator the case is
 // drawn from, so the same number always gives the same case whatever else has drawn numbers.

@@ -3,7 +3,7 @@
 
 #include "CaseNumber.h"
 
-#include "shell/TextWrap.h"
+#include "shell/core/TextWrap.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "shell/WriteFormat.h"
+#include "shell/core/WriteFormat.h"
 
 #include <array>
 #include <QLoggingCategory>

@@ -4,9 +4,9 @@
 #include "CaseCover.h"
 #include "CasePapers.h"
 
-#include "shell/DataPath.h"
+#include "shell/core/DataPath.h"
 #include "shell/Services.h"
-#include "shell/Settings.h"
+#include "shell/core/Settings.h"
 #include "shell/WindowUtil.h"
 
 #include <QCheckBox>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every data file the program ships parses with the shared reader and holds what the
 // activities rely on: counts, orders, pictures, and map points inside their own shapes.
-#include "shell/WriteFormat.h"
+#include "shell/core/WriteFormat.h"
 #include "support/TestDoubles.h"
 
 #include <QDate>

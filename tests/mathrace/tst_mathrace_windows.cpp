@@ -4,7 +4,7 @@
 #include "mathrace/optMRace.h"
 #include "mathrace/RaceTrack.h"
 #include "shell/frmResults.h"
-#include "shell/Settings.h"
+#include "shell/core/Settings.h"
 #include "shell/widgets/Gauge.h"
 #include "shell/widgets/PictureBox.h"
 #include "shell/WindowUtil.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/Settings.h"
-#include "shell/WriteFormat.h"
+#include "shell/core/Settings.h"
+#include "shell/core/WriteFormat.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/Random.h"
-#include "shell/Shuffle.h"
-#include "shell/SoundCode.h"
-#include "shell/TextWrap.h"
+#include "shell/core/Random.h"
+#include "shell/core/Shuffle.h"
+#include "shell/core/SoundCode.h"
+#include "shell/core/TextWrap.h"
 
 #include <algorithm>
 #include <QTest>

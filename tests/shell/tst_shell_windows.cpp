@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Activities.h"
 #include "shell/ActivityWindow.h"
-#include "shell/DataPath.h"
+#include "shell/core/DataPath.h"
 #include "shell/frmInput.h"
 #include "shell/frmMenu.h"
 #include "shell/frmResults.h"
 #include "shell/Preferences.h"
 #include "shell/RealServices.h"
-#include "shell/Settings.h"
+#include "shell/core/Settings.h"
 #include "support/TestDoubles.h"
 
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/DataPath.h"
-#include "shell/Settings.h"
+#include "shell/core/DataPath.h"
+#include "shell/core/Settings.h"
 #include "shell/Startup.h"
 #include "support/TestDoubles.h"
 

@@ -4,8 +4,8 @@
 #include "stopthief/CasePapers.h"
 #include "stopthief/frmThief.h"
 
-#include "shell/DataPath.h"
-#include "shell/Settings.h"
+#include "shell/core/DataPath.h"
+#include "shell/core/Settings.h"
 
 #include <QGroupBox>
 #include <QLabel>

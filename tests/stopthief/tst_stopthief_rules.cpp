@@ -4,7 +4,7 @@
 
 #include "stopthief/CaseBuilder.h"
 
-#include "shell/DataPath.h"
+#include "shell/core/DataPath.h"
 
 #include <QElapsedTimer>
 #include <QRegularExpression>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TestDoubles.h"
 
-#include "shell/DataPath.h"
+#include "shell/core/DataPath.h"
 #include "shell/Fonts.h"
 #include "shell/Preferences.h"
 #include "shell/Printing.h"
-#include "shell/Settings.h"
+#include "shell/core/Settings.h"
 
 #include <QCoreApplication>
 #include <QDialog>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "shell/Random.h"
+#include "shell/core/Random.h"
 #include "shell/Services.h"
 
 #include <functional>

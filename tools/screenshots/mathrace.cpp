@@ -8,7 +8,7 @@
 #include "mathrace/optMRace.h"
 #include "shell/frmResults.h"
 #include "shell/Services.h"
-#include "shell/Settings.h"
+#include "shell/core/Settings.h"
 #include "support/TestDoubles.h"
 
 #include <QLabel>
