@@ -3,13 +3,14 @@
 # One script for a fresh Debian 12 machine:
 #   ./build.sh run    install what is missing, build an optimised program and start it
 #   ./build.sh test   install what is missing, build with sanitizers and run every test
+#   ./build.sh deb    install what is missing, build a Debian package (build-deb/lumbridle_*.deb)
 set -euo pipefail
 cd "$(dirname "$0")"
 
 packages=(g++ cmake ninja-build pkg-config ccache
     qt6-base-dev qt6-base-dev-tools qt6-multimedia-dev qt6-svg-dev qt6-qpa-plugins libgl-dev
     fonts-comic-neue fonts-liberation2)
-test_packages=(poppler-utils nodejs)
+test_packages=(poppler-utils nodejs desktop-file-utils appstream man-db)
 
 install_missing() {
     local missing=()
@@ -44,8 +45,15 @@ test)
     node --test tools/assets/test/
     QT_QPA_PLATFORM=offscreen ctest --test-dir build-test --output-on-failure --parallel "$jobs"
     ;;
+deb)
+    install_missing "${packages[@]}" dpkg-dev file
+    cmake -S . -B build-deb -G Ninja -DCMAKE_BUILD_TYPE=Release -DLUMBRIDLE_TESTS=OFF \
+        -DLUMBRIDLE_BENCH=OFF -DCMAKE_INSTALL_PREFIX=/usr
+    cmake --build build-deb --parallel "$jobs"
+    (cd build-deb && cpack -G DEB)
+    ;;
 *)
-    echo "usage: ./build.sh run | ./build.sh test" >&2
+    echo "usage: ./build.sh run | ./build.sh test | ./build.sh deb" >&2
     exit 2
     ;;
 esac

@@ -35,11 +35,11 @@ int main(int argc, char *argv[])
 
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Lumbridle"));
-    QApplication::setOrganizationName(QStringLiteral("Lumbridle"));
     QApplication::setApplicationVersion(QStringLiteral("5.0"));
     if (!PrepareStart(options.dataDir))
         return 1;
     frmMenu menu(Activities());
     menu.show();
+    CloseOnTerminate(&menu);
     return app.exec();
 }

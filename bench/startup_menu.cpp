@@ -12,7 +12,6 @@ int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Lumbridle"));
-    QApplication::setOrganizationName(QStringLiteral("Lumbridle"));
     QApplication::setApplicationVersion(QStringLiteral("5.0"));
     if (!PrepareStart(QString()))
         return 1;

@@ -7,6 +7,7 @@
 #include "SoundBackend.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -27,7 +28,13 @@ QtSound::~QtSound() = default;
 
 QString QtSound::modulePath()
 {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/liblumbridle_sound.so");
+    // Beside the program in a build tree; in the library folder of an installed program.
+    const QDir program(QCoreApplication::applicationDirPath());
+    const QString beside = program.filePath(QStringLiteral("liblumbridle_sound.so"));
+    if (QFileInfo::exists(beside))
+        return beside;
+    return QDir::cleanPath(
+        program.filePath(QStringLiteral(LUMBRIDLE_MODULE_DIR "/liblumbridle_sound.so")));
 }
 
 SoundBackend *QtSound::backend()

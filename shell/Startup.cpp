@@ -1,18 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Startup.h"
 
-#include "shell/core/DataPath.h"
 #include "Fonts.h"
 #include "Preferences.h"
 #include "Services.h"
+#include "shell/core/DataPath.h"
 #include "shell/core/Settings.h"
 #include "shell/core/SettingsStore.h"
 
+#include <csignal>
 #include <QApplication>
 #include <QDir>
 #include <QIcon>
 #include <QLoggingCategory>
+#include <QPointer>
+#include <QSocketNotifier>
 #include <QTimer>
+#include <sys/socket.h>
+#include <unistd.h>
 
 Q_DECLARE_LOGGING_CATEGORY(lcShell)
 
@@ -56,7 +61,14 @@ QString UsageText()
 bool PrepareStart(const QString &dataDir)
 {
     InstallFontSubstitutes();
-    SetDataPath(dataDir.isEmpty() ? QCoreApplication::applicationDirPath() : dataDir);
+    if (dataDir.isEmpty()) {
+        const DataLocation location = LocateData(QCoreApplication::applicationDirPath());
+        SetDataPath(location.folder);
+        SetDataPathInstalled(location.installed);
+    } else {
+        SetDataPath(dataDir);
+        SetDataPathInstalled(false);
+    }
     // The icon's picture loads once the menu is on screen: nobody waits for it.
     QTimer::singleShot(0, qApp, [] {
         QApplication::setWindowIcon(QIcon(DataFile(QStringLiteral("lumbridle.svg"))));
@@ -73,4 +85,38 @@ bool PrepareStart(const QString &dataDir)
         return false;
     }
     return true;
+}
+
+namespace {
+int terminateSocket[2] = {-1, -1};
+
+// A signal handler may only write to a descriptor; the event loop reads it.
+extern "C" void onTerminate(int)
+{
+    const char byte = 1;
+    [[maybe_unused]] const auto written = ::write(terminateSocket[0], &byte, 1);
+}
+} // namespace
+
+void CloseOnTerminate(QWidget *menu)
+{
+    if (terminateSocket[0] < 0 && ::socketpair(AF_UNIX, SOCK_STREAM, 0, terminateSocket) != 0) {
+        qCWarning(lcShell) << "cannot watch for logout: settings are saved only from the menu";
+        return;
+    }
+    auto *notifier = new QSocketNotifier(terminateSocket[1], QSocketNotifier::Read, menu);
+    QObject::connect(notifier, &QSocketNotifier::activated, menu,
+                     [notifier, window = QPointer<QWidget>(menu)] {
+                         char byte = 0;
+                         [[maybe_unused]] const auto got = ::read(terminateSocket[1], &byte, 1);
+                         notifier->setEnabled(false);
+                         if (window)
+                             window->close();
+                     });
+    struct sigaction action = {};
+    action.sa_handler = onTerminate;
+    sigemptyset(&action.sa_mask);
+    action.sa_flags = SA_RESTART;
+    for (const int signal : {SIGTERM, SIGHUP, SIGINT})
+        ::sigaction(signal, &action, nullptr);
 }

@@ -19,3 +19,8 @@ QString UsageText();
 // file. A missing or damaged settings file shows "File missing/incomplete - Reinstall program"
 // and returns false, with no value substituted.
 bool PrepareStart(const QString &dataDir);
+
+class QWidget;
+// A logout or `kill` (SIGTERM, SIGHUP, SIGINT) closes `menu` as its own close button does, so
+// the settings changed in this sitting are saved before the program ends.
+void CloseOnTerminate(QWidget *menu);

@@ -2,6 +2,7 @@
 #include "DataPath.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace {
 QString &dataPath()
@@ -9,7 +10,34 @@ QString &dataPath()
     static QString path;
     return path;
 }
+
+bool &installedPath()
+{
+    static bool installed = false;
+    return installed;
+}
 } // namespace
+
+bool DataPathIsInstalled()
+{
+    return installedPath();
+}
+
+void SetDataPathInstalled(bool installed)
+{
+    installedPath() = installed;
+}
+
+DataLocation LocateData(const QString &programFolder)
+{
+    const QDir program(programFolder);
+    if (QFileInfo::exists(program.filePath(QStringLiteral("lumbridle52.ini"))))
+        return {program.absolutePath(), false};
+    const QString shared = QDir::cleanPath(program.filePath(QStringLiteral("../share/lumbridle")));
+    if (QFileInfo(shared).isDir())
+        return {shared, true};
+    return {program.absolutePath(), false};
+}
 
 QString DataPath()
 {

@@ -17,8 +17,12 @@ QString userCopy()
            QLatin1String(SettingsFile::FileName);
 }
 
-bool dataFolderWritable()
+// The installed data folder only seeds a user's first start; a build tree or a folder named
+// with --data-dir keeps its settings beside the data while it can.
+bool keepBesideData()
 {
+    if (DataPathIsInstalled())
+        return false;
     const QFileInfo folder(DataPath());
     const QFileInfo file(DataFile(QLatin1String(SettingsFile::FileName)));
     return folder.isWritable() && (!file.exists() || file.isWritable());
@@ -27,14 +31,14 @@ bool dataFolderWritable()
 
 QString readPath()
 {
-    if (!dataFolderWritable() && QFileInfo::exists(userCopy()))
+    if (!keepBesideData() && QFileInfo::exists(userCopy()))
         return userCopy();
     return DataFile(QLatin1String(SettingsFile::FileName));
 }
 
 QString writePath()
 {
-    if (dataFolderWritable())
+    if (keepBesideData())
         return DataFile(QLatin1String(SettingsFile::FileName));
     QDir().mkpath(QFileInfo(userCopy()).absolutePath());
     return userCopy();

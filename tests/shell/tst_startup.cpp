@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/DataPath.h"
 #include "shell/core/Settings.h"
+#include "shell/core/SettingsStore.h"
 #include "shell/Startup.h"
 #include "support/TestDoubles.h"
 
@@ -73,6 +74,36 @@ private slots:
         QCOMPARE(TheSettings().spaceRaceListName, QStringLiteral("NONE"));
         QCOMPARE(TheSettings().spaceRaceWordCount, qint16(0));
         QVERIFY(env.dialogs.messages.isEmpty());
+    }
+
+    // A build tree keeps data and settings beside the program; an installed program reads its
+    // data from ../share/lumbridle and keeps settings in the user's folder, even where the
+    // installed folder could be written (as root can).
+    void installedDataIsFoundAndSettingsGoToTheUser()
+    {
+        QTemporaryDir prefix;
+        QVERIFY(QDir(prefix.path()).mkpath(QStringLiteral("bin")));
+        QVERIFY(QDir(prefix.path()).mkpath(QStringLiteral("share/lumbridle")));
+        const QString shared = prefix.filePath(QStringLiteral("share/lumbridle"));
+        const DataLocation installed = LocateData(prefix.filePath(QStringLiteral("bin")));
+        QCOMPARE(installed.folder, shared);
+        QVERIFY(installed.installed);
+
+        QTemporaryDir tree;
+        QFile ini(tree.filePath(QStringLiteral("lumbridle52.ini")));
+        QVERIFY(ini.open(QIODevice::WriteOnly));
+        ini.close();
+        const DataLocation built = LocateData(tree.path());
+        QCOMPARE(built.folder, QDir(tree.path()).absolutePath());
+        QVERIFY(!built.installed);
+
+        TestEnvironment env;
+        SetDataPath(shared);
+        SetDataPathInstalled(true);
+        QVERIFY(!SettingsStore::writePath().startsWith(shared));
+        QCOMPARE(SettingsStore::readPath(), shared + QStringLiteral("/lumbridle52.ini"));
+        SetDataPathInstalled(false);
+        QCOMPARE(SettingsStore::writePath(), shared + QStringLiteral("/lumbridle52.ini"));
     }
 
     void damagedOrMissingSettingsStopTheStart_data()
