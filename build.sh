@@ -10,7 +10,7 @@ cd "$(dirname "$0")"
 packages=(g++ cmake ninja-build pkg-config ccache
     qt6-base-dev qt6-base-dev-tools qt6-multimedia-dev qt6-svg-dev qt6-qpa-plugins libgl-dev
     fonts-comic-neue fonts-liberation2)
-test_packages=(poppler-utils nodejs desktop-file-utils appstream man-db)
+test_packages=(poppler-utils nodejs desktop-file-utils appstream man-db clang libclang-rt-dev)
 
 install_missing() {
     local missing=()
@@ -44,6 +44,7 @@ test)
     cmake --build build-test --parallel "$jobs"
     node --test tools/assets/test/
     QT_QPA_PLATFORM=offscreen ctest --test-dir build-test --output-on-failure --parallel "$jobs"
+    tools/fuzz/run 15
     ;;
 deb)
     install_missing "${packages[@]}" dpkg-dev file

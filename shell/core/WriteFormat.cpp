@@ -5,6 +5,7 @@
 #include <limits>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QSaveFile>
 
 namespace {
@@ -308,7 +309,8 @@ WriteWriter &WriteWriter::number(qint64 value)
 WriteWriter &WriteWriter::number(double value)
 {
     separate();
-    m_data += QByteArray::number(value, 'g', 15);
+    // The shortest form that reads back as the same number.
+    m_data += QByteArray::number(value, 'g', QLocale::FloatingPointShortest);
     return *this;
 }
 

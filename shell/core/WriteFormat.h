@@ -49,6 +49,8 @@ public:
 
     const FileError &error() const { return m_error; }
     bool failed() const { return m_error.isSet(); }
+    // Every item of every line as read, for checks that look at a file whole.
+    const QList<QList<WriteItem>> &lines() const { return m_lines; }
 
 private:
     const WriteItem *take(const char *what);

@@ -2,10 +2,10 @@
 #include "TestDoubles.h"
 
 #include "shell/core/DataPath.h"
+#include "shell/core/Settings.h"
 #include "shell/Fonts.h"
 #include "shell/Preferences.h"
 #include "shell/Printing.h"
-#include "shell/core/Settings.h"
 
 #include <QCoreApplication>
 #include <QDialog>
@@ -40,6 +40,8 @@ QMessageBox::StandardButton ScriptedDialogs::message(QWidget *, const MessageReq
     messages.append(request);
     if (!answers.isEmpty())
         return answers.takeFirst();
+    if (onMessage)
+        return onMessage(request);
     return request.defaultButton != QMessageBox::NoButton ? request.defaultButton : QMessageBox::Ok;
 }
 

@@ -40,8 +40,10 @@ public:
     bool print(QWidget *parent, const PrintDocument &document) override;
     int run(QDialog &dialog) override;
 
-    // Answers for the next message boxes, in order; without one, the default button (or Ok).
+    // Answers for the next message boxes, in order; without one, onMessage's answer, else the
+    // default button (or Ok).
     QList<QMessageBox::StandardButton> answers;
+    std::function<QMessageBox::StandardButton(const MessageRequest &)> onMessage;
     QStringList openAnswers;
     QStringList saveAnswers;
     QList<MessageRequest> messages;

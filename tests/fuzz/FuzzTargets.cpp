@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "FuzzTargets.h"
+
+#include "shell/core/Settings.h"
+#include "shell/core/WriteFormat.h"
+#include "stopthief/ThiefData.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+void FuzzFail(const char *what, const QByteArray &input)
+{
+    std::fprintf(stderr, "fuzz check failed: %s (input of %lld bytes)\n", what,
+                 static_cast<long long>(input.size()));
+    std::abort();
+}
+
+namespace {
+// A failed read names where it failed; a successful one leaves no error behind.
+void expectHonestError(bool ok, const FileError &error, const QByteArray &input)
+{
+    if (ok == error.isSet())
+        FuzzFail(ok ? "a read succeeded with an error set" : "a read failed without a reason",
+                 input);
+    if (!ok && (error.line < 0 || error.item < 0))
+        FuzzFail("an error names a negative line or item", input);
+}
+
+// What the reader reads, the writer writes back, and it reads back the same: texts to the
+// letter, numbers to the bit.
+void writeFormatRoundTrip(const QByteArray &input)
+{
+    WriteReader first;
+    const bool ok = first.parse(input);
+    expectHonestError(ok, first.error(), input);
+    if (!ok)
+        return;
+    WriteWriter out;
+    QList<QList<double>> numbers;
+    for (const auto &line : first.lines()) {
+        QList<double> lineNumbers;
+        for (const WriteItem &item : line) {
+            WriteReader one;
+            double value = 0;
+            if (!item.quoted && one.parse(item.text.toUtf8()) && one.readNumber(value)) {
+                out.number(value);
+                lineNumbers.append(value);
+            } else {
+                out.text(item.text);
+            }
+        }
+        out.endLine();
+        numbers.append(lineNumbers);
+    }
+    WriteReader second;
+    if (!second.parse(out.data()))
+        FuzzFail("the writer wrote what the reader refuses", input);
+    if (second.lines().size() != first.lines().size())
+        FuzzFail("a round trip changed the number of lines", input);
+    for (qsizetype l = 0; l < first.lines().size(); ++l) {
+        const auto &was = first.lines()[l];
+        const auto &now = second.lines()[l];
+        if (was.size() != now.size())
+            FuzzFail("a round trip changed the number of items", input);
+        qsizetype n = 0;
+        for (qsizetype i = 0; i < was.size(); ++i) {
+            if (now[i].quoted) {
+                if (now[i].text != was[i].text)
+                    FuzzFail("a round trip changed a text", input);
+                continue;
+            }
+            WriteReader one;
+            double value = 0;
+            if (!one.parse(now[i].text.toUtf8()) || !one.readNumber(value) ||
+                n >= numbers[l].size() || value != numbers[l][n++])
+                FuzzFail("a round trip changed a number", input);
+        }
+    }
+}
+
+void settingsFile(const QByteArray &input)
+{
+    FileError error;
+    const auto settings = SettingsFile::parse(input, &error);
+    expectHonestError(settings.has_value(), error, input);
+    if (!settings)
+        return;
+    const auto again = SettingsFile::parse(SettingsFile::format(*settings));
+    if (!again || !(*again == *settings))
+        FuzzFail("settings written back read differently", input);
+}
+
+void thiefData(const QByteArray &input)
+{
+    ThiefData data;
+    expectHonestError(data.parse(input), data.error(), input);
+}
+} // namespace
+
+const QList<FuzzTarget> &FuzzTargets()
+{
+    static const QList<FuzzTarget> targets = {
+        {"writeformat", {"lumbridle52.ini", "thief.dat", "usgeo.dat"}, writeFormatRoundTrip},
+        {"settings", {"lumbridle52.ini"}, settingsFile},
+        {"thief", {"thief.dat"}, thiefData},
+    };
+    return targets;
+}
+
+const FuzzTarget *FindFuzzTarget(const QByteArray &name)
+{
+    for (const FuzzTarget &target : FuzzTargets())
+        if (name == target.name)
+            return &target;
+    return nullptr;
+}
