@@ -3,6 +3,8 @@
 
 #include "Evening.h"
 
+#include <QCoreApplication>
+
 namespace {
 // Rounds a / b to the nearest whole number, a half to the even one (b > 0).
 qint64 RoundedQuotient(qint64 a, qint64 b)
@@ -35,7 +37,8 @@ std::optional<qint64> SalesReport::profitPerHour() const
 
 QString SalesReport::endText() const
 {
-    return QStringLiteral("End - ") + Evening::timeText(hour * 60 + minute);
+    return QCoreApplication::translate("SalesReport", "End - ") +
+           Evening::timeText(hour * 60 + minute);
 }
 
 QString SalesReport::money(qint64 dollars)

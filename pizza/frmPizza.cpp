@@ -8,6 +8,7 @@
 #include "shell/Services.h"
 #include "shell/WindowUtil.h"
 
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -95,7 +96,8 @@ QGroupBox *MakeFrame(const QString &title, const QString &name, QWidget *parent)
 
 QString PizzaCount(int count)
 {
-    return count == 1 ? QStringLiteral("1 Pizza") : QStringLiteral("%1 Pizzas").arg(count);
+    return QString::number(count) + QCoreApplication::translate("frmPizza", " Pizza") +
+           (count == 1 ? QString() : QStringLiteral("s"));
 }
 
 QString HouseText(QPoint house)
@@ -154,6 +156,7 @@ void frmPizza::buildControls()
     lstPizza->setMinimumHeight(84);
     // The list takes whatever height is left over, never more.
     lstPizza->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    ScaleFont(lstPizza, 1.1, true);
     lstPizza->setStyleSheet(QStringLiteral("QListWidget { border: 2px solid #FFE0B2;"
                                            " border-radius: 6px; }"
                                            "QListWidget::item:selected { background: #FFE082;"
@@ -330,7 +333,7 @@ void frmPizza::cmdNew_Click()
     lblBake->setText(QStringLiteral("0"));
     lblOven->setText(tr("Oven is empty"));
     showCarLoad();
-    showCar(QStringLiteral("Car at Pizza Place"));
+    showCar(tr("Car at Pizza Place"));
     picPizza->refresh();
     timClock->start(Evening::MinuteMs);
     timPhone->start(Evening::FirstCallMs);
@@ -396,6 +399,9 @@ void frmPizza::timPhone_Timer()
     if (order) {
         fillOrders();
         picPizza->refresh();
+        Announce(
+            lstPizza,
+            tr("New order: %1 from %2").arg(PizzaCount(order->pizzas), HouseText(order->house)));
         PlaySound(m_phoneSound, SND_SYNC);
     }
     if (m_evening.callsOver())
@@ -409,7 +415,7 @@ void frmPizza::cmdBake_Click()
     const int count = lblBake->text().toInt();
     if (!m_evening.startBaking(count))
         return;
-    lblOven->setText(PizzaCount(count) + QStringLiteral("\nOut At ") +
+    lblOven->setText(PizzaCount(count) + u'\n' + tr("Out At ") +
                      Evening::timeText(m_evening.ovenDoneAt()));
     Announce(lblOven, lblOven->text());
     timBake->start(Evening::MinuteMs);
@@ -459,7 +465,7 @@ void frmPizza::cmdGo_Click()
     const QPoint destination(spnX->value(), spnY->value());
     if (!m_evening.go(destination))
         return;
-    showCar(QStringLiteral("Car Going To:\n") + HouseText(destination));
+    showCar(tr("Car Going To:") + u'\n' + HouseText(destination));
     PlaySound(m_carBeepSound, SND_ASYNC);
     timCar->start(Evening::CarStepMs);
     updateControls();
@@ -469,7 +475,7 @@ void frmPizza::cmdReturn_Click()
 {
     if (!m_evening.returnToShop())
         return;
-    showCar(QStringLiteral("Car Returning\nTo Pizza Place:"));
+    showCar(tr("Car Returning") + u'\n' + tr("To Pizza Place:"));
     timCar->start(Evening::CarStepMs);
     updateControls();
 }
@@ -481,26 +487,26 @@ void frmPizza::timCar_Timer()
     if (stop == Evening::Stop::Driving)
         return;
     timCar->stop();
-    const QString at = QStringLiteral("Car at ") + HouseText(m_evening.carPosition());
+    const QString at = tr("Car at ") + HouseText(m_evening.carPosition()) + u'\n';
     switch (stop) {
     case Evening::Stop::PizzaPlace:
-        showCar(QStringLiteral("Car at Pizza Place"));
+        showCar(tr("Car at Pizza Place"));
         PlaySound(m_carBeepSound, SND_ASYNC);
         break;
     case Evening::Stop::NoPizzaWanted:
-        showCar(at + QStringLiteral("\nNo Pizza Wanted"));
+        showCar(at + tr("No Pizza Wanted"));
         PlaySound(m_carBeepSound, SND_ASYNC);
         break;
     case Evening::Stop::NotEnoughPizzas:
-        showCar(at + QStringLiteral("\nNot Enough Pizzas"));
+        showCar(at + tr("Not Enough Pizzas"));
         PlaySound(m_carBeepSound, SND_ASYNC);
         break;
     case Evening::Stop::OnTime:
-        showCar(at + QStringLiteral("\nDelivered\nOn-Time Delivery"));
+        showCar(at + tr("Delivered") + u'\n' + tr("On-Time Delivery"));
         PlaySound(m_tadaSound, SND_ASYNC);
         break;
     case Evening::Stop::Late:
-        showCar(at + QStringLiteral("\nDelivered\nLate Delivery!"));
+        showCar(at + tr("Delivered") + u'\n' + tr("Late Delivery!"));
         PlaySound(m_carBeepSound, SND_ASYNC);
         break;
     case Evening::Stop::Driving:

@@ -26,6 +26,7 @@ QLabel *MakeLabel(QWidget *parent, const QString &name, Qt::Alignment align = Qt
     return label;
 }
 
+// A count and what it counts: "12 On-Time Deliveries".
 QString Count(int n, const QString &what)
 {
     return QString::number(n) + what;
@@ -148,14 +149,14 @@ void frmSales::fill()
 {
     const SalesReport &r = m_report;
     lblEnd->setText(r.endText());
-    lblOnTime->setText(Count(r.onTime, QStringLiteral(" On-Time Deliveries")));
+    lblOnTime->setText(Count(r.onTime, tr(" On-Time Deliveries")));
     lblOnTimeSales->setText(SalesReport::money(r.onTimeSales()));
-    lblLate->setText(Count(r.late, QStringLiteral(" Late Deliveries")));
+    lblLate->setText(Count(r.late, tr(" Late Deliveries")));
     lblLateSales->setText(SalesReport::money(r.lateSales()));
     lblSales->setText(SalesReport::money(r.sales()));
-    lblBaked->setText(Count(r.baked, QStringLiteral(" Pizzas Baked")));
+    lblBaked->setText(Count(r.baked, tr(" Pizzas Baked")));
     lblBakingCost->setText(SalesReport::money(r.bakingCost()));
-    lblMiles->setText(Count(r.miles, QStringLiteral(" Miles Driven")));
+    lblMiles->setText(Count(r.miles, tr(" Miles Driven")));
     lblMileage->setText(SalesReport::money(r.mileageCost()));
     lblCosts->setText(SalesReport::money(r.costs()));
     lblProfit->setText(SalesReport::money(r.profit()));
@@ -172,17 +173,14 @@ PrintDocument frmSales::document(const SalesReport &r)
     paper.addLine(r.endText());
     paper.addBlankLine();
     paper.addLine(tr("Sales"));
-    paper.addLine(Line(Count(r.onTime, QStringLiteral(" On-Time Deliveries")),
-                       SalesReport::money(r.onTimeSales())));
     paper.addLine(
-        Line(Count(r.late, QStringLiteral(" Late Deliveries")), SalesReport::money(r.lateSales())));
+        Line(Count(r.onTime, tr(" On-Time Deliveries")), SalesReport::money(r.onTimeSales())));
+    paper.addLine(Line(Count(r.late, tr(" Late Deliveries")), SalesReport::money(r.lateSales())));
     paper.addLine(Line(tr("Total Sales"), SalesReport::money(r.sales())));
     paper.addBlankLine();
     paper.addLine(tr("Costs"));
-    paper.addLine(
-        Line(Count(r.baked, QStringLiteral(" Pizzas Baked")), SalesReport::money(r.bakingCost())));
-    paper.addLine(
-        Line(Count(r.miles, QStringLiteral(" Miles Driven")), SalesReport::money(r.mileageCost())));
+    paper.addLine(Line(Count(r.baked, tr(" Pizzas Baked")), SalesReport::money(r.bakingCost())));
+    paper.addLine(Line(Count(r.miles, tr(" Miles Driven")), SalesReport::money(r.mileageCost())));
     paper.addLine(Line(tr("Total Costs"), SalesReport::money(r.costs())));
     paper.addBlankLine();
     paper.addLine(Line(tr("Profit"), SalesReport::money(r.profit())));

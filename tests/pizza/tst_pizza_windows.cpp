@@ -141,6 +141,8 @@ void tst_pizza_windows::bakeLoadDeliverAndComeBack()
     QCOMPARE(w->lstPizza->count(), 1);
     QCOMPARE(w->lstPizza->item(0)->text(), QStringLiteral("(2,1)   6:00   2 Pizzas"));
     QCOMPARE(env.sound.events.last(), QStringLiteral("play phone.wav wait"));
+    QCOMPARE(w->lstPizza->accessibleDescription(),
+             QStringLiteral("New order: 2 Pizzas from (2,1)"));
     QCOMPARE(w->timPhone->interval(), 2 * 2500);
 
     w->spnBake->setFocus();
