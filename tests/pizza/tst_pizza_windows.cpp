@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pizza/frmPizza.h"
-#include "pizza/frmSales.h"
 #include "pizza/TownMap.h"
 #include "support/TestDoubles.h"
 
@@ -18,11 +17,9 @@ class tst_pizza_windows : public QObject {
     Q_OBJECT
 private slots:
     void opensWithTheShopClosed();
-    void bakeLoadDeliverAndComeBack();
-    void lateAndFailedStops();
-    void pauseStopsEveryTimerAndRestartResumesThem();
+    void ordersBakingAndEveryStop();
+    void pauseStopsEveryTimerAndStopGivesTheReport();
     void elevenOClockEndsTheDayWithTheReport();
-    void stopEndsTheDayEarlyThenExitCloses();
 };
 
 namespace {
@@ -49,47 +46,36 @@ struct Window {
                 active.append(timer);
         return active;
     }
-    void driveUntilStopped() const
+    // Drives to the house picked with the spin buttons (or by a click) and says what happened.
+    QString go() const
     {
+        QTest::mouseClick(w->cmdGo, Qt::LeftButton);
         for (int i = 0; i < 100 && w->timCar->isActive(); ++i)
             w->timCar_Timer();
+        return w->lblCar->text();
+    }
+    void bake(int count) const
+    {
+        for (int i = 0; i < count; ++i)
+            QTest::keyClick(w->spnBake, Qt::Key_Up);
+        QTest::mouseClick(w->cmdBake, Qt::LeftButton);
+        for (int i = 0; i < 10; ++i)
+            w->timBake_Timer();
     }
 };
-
-double Pick(int value, int n)
-{
-    return (value - 0.5) / n;
-}
 
 // The next call comes from `house` wanting the pizzas that the draw r gives.
 void ScriptCall(ScriptedRandom &random, QPoint house, int r)
 {
-    random.values << Pick(house.x(), 20) << Pick(house.y(), 20) << (r + 0.5) / 100 << Pick(2, 9);
+    random.values << (house.x() - 0.5) / 20 << (house.y() - 0.5) / 20 << (r + 0.5) / 100 << 1.5 / 9;
 }
 
-void Bake(frmPizza *w, int count)
+// Reads the report when it is shown, then presses Print and Return on it.
+void CaptureReport(TestEnvironment &env, QMap<QString, QString> &labels)
 {
-    w->spnBake->setFocus();
-    for (int i = 0; i < count; ++i)
-        QTest::keyClick(w->spnBake, Qt::Key_Up);
-    QTest::mouseClick(w->cmdBake, Qt::LeftButton);
-    for (int i = 0; i < 10; ++i)
-        w->timBake_Timer();
-}
-
-struct Report {
-    int shown = 0;
-    QMap<QString, QString> labels;
-};
-
-// Reads the report when it is shown and presses Print and Return on it.
-void CaptureReport(TestEnvironment &env, Report &report)
-{
-    env.dialogs.onRun = [&report](QDialog &dialog) {
-        ++report.shown;
+    env.dialogs.onRun = [&labels](QDialog &dialog) {
         for (const QLabel *label : dialog.findChildren<QLabel *>())
-            if (label->objectName().startsWith(QLatin1String("lbl")))
-                report.labels[label->objectName()] = label->text();
+            labels[label->objectName()] = label->text();
         QTest::mouseClick(dialog.findChild<QPushButton *>("cmdPrint"), Qt::LeftButton);
         QTest::mouseClick(dialog.findChild<QPushButton *>("cmdReturn"), Qt::LeftButton);
         return dialog.result();
@@ -122,7 +108,7 @@ void tst_pizza_windows::opensWithTheShopClosed()
     QCOMPARE(env.help.topics, QStringList{QStringLiteral("pizza")});
 }
 
-void tst_pizza_windows::bakeLoadDeliverAndComeBack()
+void tst_pizza_windows::ordersBakingAndEveryStop()
 {
     TestEnvironment env;
     ScriptedRandom random;
@@ -138,21 +124,22 @@ void tst_pizza_windows::bakeLoadDeliverAndComeBack()
 
     ScriptCall(random, QPoint(2, 1), 35);
     w->timPhone_Timer();
-    QCOMPARE(w->lstPizza->count(), 1);
+    ScriptCall(random, QPoint(1, 1), 90);
+    w->timPhone_Timer();
     QCOMPARE(w->lstPizza->item(0)->text(), QStringLiteral("(2,1)   6:00   2 Pizzas"));
+    QCOMPARE(w->lstPizza->item(1)->text(), QStringLiteral("(1,1)   6:00   5 Pizzas"));
     QCOMPARE(env.sound.events.last(), QStringLiteral("play phone.wav wait"));
     QCOMPARE(w->lstPizza->accessibleDescription(),
-             QStringLiteral("New order: 2 Pizzas from (2,1)"));
+             QStringLiteral("New order: 5 Pizzas from (1,1)"));
     QCOMPARE(w->timPhone->interval(), 2 * 2500);
 
-    w->spnBake->setFocus();
+    QCOMPARE(QApplication::focusWidget(), w->spnBake);
     for (int i = 0; i < 3; ++i)
         QTest::keyClick(w->spnBake, Qt::Key_Up);
     QCOMPARE(w->lblBake->text(), QStringLiteral("3"));
     QTest::mouseClick(w->cmdBake, Qt::LeftButton);
     QCOMPARE(w->lblOven->text(), QStringLiteral("3 Pizzas\nOut At 6:10"));
-    QVERIFY(!w->cmdBake->isEnabled() && !w->spnBake->isEnabled());
-    QVERIFY(w->timBake->isActive());
+    QVERIFY(!w->cmdBake->isEnabled() && !w->spnBake->isEnabled() && w->timBake->isActive());
     for (int i = 0; i < 9; ++i)
         w->timBake_Timer();
     QCOMPARE(w->lblReady->text(), QStringLiteral("0"));
@@ -161,90 +148,58 @@ void tst_pizza_windows::bakeLoadDeliverAndComeBack()
     QCOMPARE(env.sound.events.last(), QStringLiteral("play ding.wav wait"));
     QCOMPARE(w->lblBake->text(), QStringLiteral("0"));
     QVERIFY(w->cmdBake->isEnabled() && !w->timBake->isActive());
-
     QTest::mouseClick(w->cmdLoad, Qt::LeftButton);
     QCOMPARE(w->lblCarPizzas->text(), QStringLiteral("3"));
     QCOMPARE(w->lblReady->text(), QStringLiteral("0"));
-    QVERIFY(!w->cmdLoad->isEnabled());
 
     // A click on the house's picture sets the destination.
-    const QPoint house = w->picPizza->toScreen(QPointF(1.6, 0.6)).toPoint();
-    QTest::mouseClick(w->picPizza, Qt::LeftButton, {}, house);
-    QCOMPARE(w->spnX->value(), 2);
-    QCOMPARE(w->spnY->value(), 1);
+    QTest::mouseClick(w->picPizza, Qt::LeftButton, {},
+                      w->picPizza->toScreen(QPointF(1.6, 0.6)).toPoint());
     QCOMPARE(w->lblXY->text(), QStringLiteral("(2,1)"));
     QCOMPARE(w->picPizza->destination(), QPoint(2, 1));
-
     QTest::mouseClick(w->cmdGo, Qt::LeftButton);
     QCOMPARE(w->lblCar->text(), QStringLiteral("Car Going To:\n(2,1)"));
     QVERIFY(!w->cmdGo->isEnabled() && !w->spnX->isEnabled() && !w->cmdReturn->isEnabled());
-    w->timCar_Timer();
-    QCOMPARE(w->evening().carPosition(), QPoint(1, 0));
-    win.driveUntilStopped();
-    QCOMPARE(w->lblCar->text(), QStringLiteral("Car at (2,1)\nDelivered\nOn-Time Delivery"));
+    QCOMPARE(win.go(), QStringLiteral("Car at (2,1)\nDelivered\nOn-Time Delivery"));
     QCOMPARE(w->lblCar->accessibleDescription(),
              QStringLiteral("Car at (2,1) Delivered On-Time Delivery"));
     QCOMPARE(env.sound.events.last(), QStringLiteral("play tada.wav async"));
     QCOMPARE(w->lblCarPizzas->text(), QStringLiteral("1"));
-    QCOMPARE(w->lstPizza->count(), 0);
-    QCOMPARE(w->evening().onTimeDeliveries(), 1);
-
-    // A mnemonic presses its button a moment later, as a click the pupil can see.
-    QTest::keyClick(w, Qt::Key_B, Qt::AltModifier);
-    QTRY_COMPARE(w->lblCar->text(), QStringLiteral("Car Returning\nTo Pizza Place:"));
-    win.driveUntilStopped();
-    QCOMPARE(w->lblCar->text(), QStringLiteral("Car at Pizza Place"));
-    QCOMPARE(w->evening().milesDriven(), 6);
-    QVERIFY(!w->cmdReturn->isEnabled());
-}
-
-void tst_pizza_windows::lateAndFailedStops()
-{
-    TestEnvironment env;
-    ScriptedRandom random;
-    SetRandomSource(&random);
-    Window win;
-    frmPizza *w = win.w;
-    QTest::mouseClick(w->cmdNew, Qt::LeftButton);
-    ScriptCall(random, QPoint(1, 1), 90); // five pizzas
-    w->timPhone_Timer();
-    Bake(w, 4);
-    QTest::mouseClick(w->cmdLoad, Qt::LeftButton);
+    QCOMPARE(w->lstPizza->count(), 1);
 
     // Choosing an order in the list sets the destination too.
     w->lstPizza->setCurrentRow(0);
-    QCOMPARE(w->lblXY->text(), QStringLiteral("(1,1)"));
-    QTest::mouseClick(w->cmdGo, Qt::LeftButton);
-    win.driveUntilStopped();
-    QCOMPARE(w->lblCar->text(), QStringLiteral("Car at (1,1)\nNot Enough Pizzas"));
-    QCOMPARE(w->lstPizza->count(), 1);
-
+    QCOMPARE(win.go(), QStringLiteral("Car at (1,1)\nNot Enough Pizzas"));
     w->spnX->setValue(3);
-    QTest::mouseClick(w->cmdGo, Qt::LeftButton);
-    win.driveUntilStopped();
-    QCOMPARE(w->lblCar->text(), QStringLiteral("Car at (3,1)\nNo Pizza Wanted"));
+    QCOMPARE(win.go(), QStringLiteral("Car at (3,1)\nNo Pizza Wanted"));
+    QTest::keyClick(w, Qt::Key_B, Qt::AltModifier);
+    // A mnemonic presses its button a moment later, as a click the pupil can see.
+    QTRY_COMPARE(w->lblCar->text(), QStringLiteral("Car Returning\nTo Pizza Place:"));
+    w->spnX->setValue(0);
+    w->spnY->setValue(0);
+    QCOMPARE(win.go(), QStringLiteral("Car at Pizza Place"));
+    QCOMPARE(w->evening().milesDriven(), 3 + 1 + 2 + 4);
+    QVERIFY(!w->cmdReturn->isEnabled());
 
-    QTest::mouseClick(w->cmdReturn, Qt::LeftButton);
-    win.driveUntilStopped();
-    Bake(w, 1);
+    win.bake(4);
     QTest::mouseClick(w->cmdLoad, Qt::LeftButton);
-    QCOMPARE(w->lblCarPizzas->text(), QStringLiteral("5"));
-    for (int i = 0; i < 32; ++i) // 32 minutes since the call
+    for (int i = 0; i < 31; ++i) // 31 minutes since the call
         w->timClock_Timer();
     w->lstPizza->setCurrentRow(0);
-    QTest::mouseClick(w->cmdGo, Qt::LeftButton);
-    win.driveUntilStopped();
-    QCOMPARE(w->lblCar->text(), QStringLiteral("Car at (1,1)\nDelivered\nLate Delivery!"));
-    QCOMPARE(w->evening().lateDeliveries(), 1);
+    QCOMPARE(win.go(), QStringLiteral("Car at (1,1)\nDelivered\nLate Delivery!"));
     QCOMPARE(env.sound.events.last(), QStringLiteral("play carbeep.wav async"));
+    QCOMPARE(w->evening().lateDeliveries(), 1);
 }
 
-void tst_pizza_windows::pauseStopsEveryTimerAndRestartResumesThem()
+void tst_pizza_windows::pauseStopsEveryTimerAndStopGivesTheReport()
 {
     TestEnvironment env;
+    QMap<QString, QString> report;
+    CaptureReport(env, report);
     Window win;
     frmPizza *w = win.w;
     QTest::mouseClick(w->cmdNew, Qt::LeftButton);
+    QTest::keyClick(w->spnBake, Qt::Key_Up);
     QTest::keyClick(w->spnBake, Qt::Key_Up);
     QTest::mouseClick(w->cmdBake, Qt::LeftButton);
     w->spnX->setValue(4);
@@ -257,19 +212,37 @@ void tst_pizza_windows::pauseStopsEveryTimerAndRestartResumesThem()
     QVERIFY(win.running().isEmpty());
     QCOMPARE(w->cmdPause->text(), QStringLiteral("&Restart"));
     QVERIFY(!w->cmdGo->isEnabled() && !w->cmdBake->isEnabled() && !w->spnX->isEnabled());
-
     QTest::keyClick(w, Qt::Key_R, Qt::AltModifier);
     QTRY_VERIFY(!w->isPaused());
     QCOMPARE(w->cmdPause->text(), QStringLiteral("&Pause"));
     QCOMPARE(win.running(), before);
     QCOMPARE(w->timCar->interval(), Evening::CarStepMs);
-    QCOMPARE(w->timClock->interval(), Evening::MinuteMs);
+
+    // Stopping, even while paused, ends the day and gives the report.
+    w->cmdPause->click();
+    QTest::mouseClick(w->cmdExit, Qt::LeftButton);
+    QCOMPARE(env.dialogs.ranWindows, QStringList{QStringLiteral("frmSales")});
+    QCOMPARE(report["lblEnd"], QStringLiteral("End - 6:00"));
+    QCOMPARE(report["lblProfit"], QStringLiteral("-$6"));
+    QCOMPARE(report["lblHP"], QStringLiteral("-"));
+    QVERIFY(win.running().isEmpty() && !w->isPaused());
+
+    // A second evening starts afresh.
+    QTest::mouseClick(w->cmdNew, Qt::LeftButton);
+    QCOMPARE(w->evening().pizzasBaked(), 0);
+    QCOMPARE(w->lblOven->text(), QStringLiteral("Oven is empty"));
+    QVERIFY(w->cmdBake->isEnabled());
+    QTest::mouseClick(w->cmdExit, Qt::LeftButton);
+    QSignalSpy closed(w, &ActivityWindow::closed);
+    QTest::mouseClick(w->cmdExit, Qt::LeftButton);
+    QCOMPARE(closed.count(), 1);
+    QCOMPARE(env.sound.events.last(), QStringLiteral("stop"));
 }
 
 void tst_pizza_windows::elevenOClockEndsTheDayWithTheReport()
 {
     TestEnvironment env;
-    Report report;
+    QMap<QString, QString> report;
     CaptureReport(env, report);
     ScriptedRandom random;
     SetRandomSource(&random);
@@ -278,73 +251,36 @@ void tst_pizza_windows::elevenOClockEndsTheDayWithTheReport()
     QTest::mouseClick(w->cmdNew, Qt::LeftButton);
     ScriptCall(random, QPoint(1, 1), 0);
     w->timPhone_Timer();
-    Bake(w, 2);
+    win.bake(2);
     QTest::mouseClick(w->cmdLoad, Qt::LeftButton);
     w->lstPizza->setCurrentRow(0);
-    QTest::mouseClick(w->cmdGo, Qt::LeftButton);
-    win.driveUntilStopped();
+    win.go();
     for (int minute = 1; minute < 300; ++minute)
         w->timClock_Timer();
     QCOMPARE(w->lblClock->text(), QStringLiteral("10:59"));
-    QCOMPARE(report.shown, 0);
+    QVERIFY(env.dialogs.ranWindows.isEmpty());
     w->timClock_Timer();
     QCOMPARE(w->lblClock->text(), QStringLiteral("11:00"));
-    QCOMPARE(report.shown, 1);
     QCOMPARE(env.dialogs.ranWindows, QStringList{QStringLiteral("frmSales")});
-    QCOMPARE(report.labels["lblEnd"], QStringLiteral("End - 11:00"));
-    QCOMPARE(report.labels["lblOnTime"], QStringLiteral("1 On-Time Deliveries"));
-    QCOMPARE(report.labels["lblOnTimeSales"], QStringLiteral("$10"));
-    QCOMPARE(report.labels["lblLate"], QStringLiteral("0 Late Deliveries"));
-    QCOMPARE(report.labels["lblBaked"], QStringLiteral("2 Pizzas Baked"));
-    QCOMPARE(report.labels["lblBakingCost"], QStringLiteral("$6"));
-    QCOMPARE(report.labels["lblMiles"], QStringLiteral("2 Miles Driven"));
-    QCOMPARE(report.labels["lblMileage"], QStringLiteral("$0"));
-    QCOMPARE(report.labels["lblCosts"], QStringLiteral("$6"));
-    QCOMPARE(report.labels["lblProfit"], QStringLiteral("$4"));
-    QCOMPARE(report.labels["lblHP"], QStringLiteral("$1"));
+    const QMap<QString, QString> expected{{"lblEnd", "End - 11:00"},
+                                          {"lblOnTime", "1 On-Time Deliveries"},
+                                          {"lblOnTimeSales", "$10"},
+                                          {"lblLate", "0 Late Deliveries"},
+                                          {"lblLateSales", "$0"},
+                                          {"lblSales", "$10"},
+                                          {"lblBaked", "2 Pizzas Baked"},
+                                          {"lblBakingCost", "$6"},
+                                          {"lblMiles", "2 Miles Driven"},
+                                          {"lblMileage", "$0"},
+                                          {"lblCosts", "$6"},
+                                          {"lblProfit", "$4"},
+                                          {"lblHP", "$1"}};
+    for (auto it = expected.begin(); it != expected.end(); ++it)
+        QCOMPARE(report[it.key()], it.value());
     QCOMPARE(env.dialogs.printed, QStringList{QStringLiteral("Pizza Place Sales Report")});
-    QVERIFY(win.running().isEmpty());
-    QVERIFY(!w->evening().isRunning());
+    QVERIFY(win.running().isEmpty() && !w->evening().isRunning());
     QCOMPARE(w->cmdExit->text(), QStringLiteral("E&xit"));
     QVERIFY(w->cmdNew->isEnabled() && !w->cmdPause->isEnabled());
-}
-
-void tst_pizza_windows::stopEndsTheDayEarlyThenExitCloses()
-{
-    TestEnvironment env;
-    Report report;
-    CaptureReport(env, report);
-    Window win;
-    frmPizza *w = win.w;
-    QTest::mouseClick(w->cmdNew, Qt::LeftButton);
-    QTest::keyClick(w->spnBake, Qt::Key_Up);
-    QTest::keyClick(w->spnBake, Qt::Key_Up);
-    QTest::mouseClick(w->cmdBake, Qt::LeftButton);
-    w->cmdPause->click();
-    QVERIFY(w->isPaused());
-    // Stopping while paused still ends the day and gives the report.
-    QTest::mouseClick(w->cmdExit, Qt::LeftButton);
-    QCOMPARE(report.shown, 1);
-    QCOMPARE(report.labels["lblEnd"], QStringLiteral("End - 6:00"));
-    QCOMPARE(report.labels["lblProfit"], QStringLiteral("-$6"));
-    QCOMPARE(report.labels["lblHP"], QStringLiteral("-"));
-    QVERIFY(win.running().isEmpty());
-    QVERIFY(!w->isPaused());
-
-    // A second evening starts afresh.
-    QTest::mouseClick(w->cmdNew, Qt::LeftButton);
-    QCOMPARE(w->evening().pizzasBaked(), 0);
-    QCOMPARE(w->lblOven->text(), QStringLiteral("Oven is empty"));
-    QVERIFY(w->cmdBake->isEnabled());
-    for (int i = 0; i < 45; ++i)
-        w->timClock_Timer();
-    QTest::mouseClick(w->cmdExit, Qt::LeftButton);
-    QCOMPARE(report.labels["lblEnd"], QStringLiteral("End - 6:45"));
-
-    QSignalSpy closed(w, &ActivityWindow::closed);
-    QTest::mouseClick(w->cmdExit, Qt::LeftButton);
-    QCOMPARE(closed.count(), 1);
-    QVERIFY(env.sound.events.contains(QStringLiteral("stop")));
 }
 
 QTEST_MAIN(tst_pizza_windows)
