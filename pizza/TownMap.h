@@ -28,7 +28,7 @@ public:
     double blockSize() const { return m_block; }
 
     QSize sizeHint() const override { return {640, 640}; }
-    QSize minimumSizeHint() const override { return {300, 300}; }
+    QSize minimumSizeHint() const override { return {240, 240}; }
 
     // The pictures: the telephone of a waiting house and the car driving across or up.
     QImage imgPhone;

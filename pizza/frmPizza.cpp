@@ -385,8 +385,10 @@ void frmPizza::timClock_Timer()
         return;
     }
     lblClock->setText(m_evening.clockText());
-    if (tick.gaveUp)
+    if (tick.gaveUp) {
         fillOrders();
+        Announce(lstPizza, tr("%1 gave up waiting").arg(HouseText(tick.gaveUp->house)));
+    }
     // The waiting badges change colour as orders grow old.
     picPizza->refresh();
 }

@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace {
@@ -51,15 +52,18 @@ frmSales::frmSales(const SalesReport &report, QWidget *parent) : QDialog(parent)
                                  "QFrame#fraSheet { background: white; border: 3px solid #FFB300;"
                                  " border-radius: 14px; }"));
 
-    auto *title = MakeLabel(this, QString(), Qt::AlignHCenter);
+    // The figures scroll when the screen is too small for them; the buttons always show.
+    auto *page = new QWidget;
+    page->setFont(font());
+    auto *title = MakeLabel(page, QString(), Qt::AlignHCenter);
     title->setText(tr("Pizza Place Sales Report"));
     ScaleFont(title, 1.5, true);
     title->setStyleSheet(QStringLiteral("color: #C62828;"));
-    lblEnd = MakeLabel(this, QStringLiteral("lblEnd"), Qt::AlignHCenter);
+    lblEnd = MakeLabel(page, QStringLiteral("lblEnd"), Qt::AlignHCenter);
     ScaleFont(lblEnd, 1.1, true);
     lblEnd->setStyleSheet(QStringLiteral("color: #1A237E;"));
 
-    auto *sheet = new QFrame(this);
+    auto *sheet = new QFrame(page);
     sheet->setObjectName(QStringLiteral("fraSheet"));
     auto *grid = new QGridLayout(sheet);
     grid->setContentsMargins(20, 14, 20, 14);
@@ -130,13 +134,24 @@ frmSales::frmSales(const SalesReport &report, QWidget *parent) : QDialog(parent)
     buttons->addWidget(cmdPrint);
     buttons->addWidget(cmdReturn);
     buttons->addStretch();
+    auto *pageLayout = new QVBoxLayout(page);
+    pageLayout->setContentsMargins(0, 0, 0, 0);
+    pageLayout->setSpacing(10);
+    pageLayout->addWidget(title);
+    pageLayout->addWidget(lblEnd);
+    pageLayout->addWidget(sheet);
+    pageLayout->addStretch();
+    auto *scroller = new QScrollArea(this);
+    scroller->setWidget(page);
+    scroller->setWidgetResizable(true);
+    scroller->setFrameShape(QFrame::NoFrame);
+    scroller->setStyleSheet(QStringLiteral("QScrollArea { background: transparent; }"));
+    scroller->viewport()->setAutoFillBackground(false);
+    page->setAutoFillBackground(false);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(24, 16, 24, 16);
     layout->setSpacing(10);
-    layout->addWidget(title);
-    layout->addWidget(lblEnd);
-    layout->addWidget(sheet);
-    layout->addStretch();
+    layout->addWidget(scroller, 1);
     layout->addLayout(buttons);
 
     fill();

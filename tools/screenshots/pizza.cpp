@@ -57,8 +57,10 @@ void PlayMinutes(frmPizza *w, int minutes, int &untilCall)
 
 frmPizza *EveningUnderWay()
 {
-    Randomize(15);
     auto *w = new frmPizza;
+    // After the window, which seeds the source from the clock, so the picture is the same
+    // every time.
+    Randomize(15);
     w->cmdNew->click();
     int untilCall = Evening::FirstCallMs;
     PlayMinutes(w, 97, untilCall);
@@ -74,8 +76,8 @@ frmPizza *EveningUnderWay()
 
 frmSales *EveningReport()
 {
-    Randomize(15);
     frmPizza window;
+    Randomize(15);
     window.cmdNew->click();
     int untilCall = Evening::FirstCallMs;
     PlayMinutes(&window, 299, untilCall);
