@@ -14,9 +14,9 @@
 namespace {
 
 // Plays the evening as a sensible pupil would for a number of minutes: bakes small batches,
-// loads the car and drives to the oldest small order it can fill (big orders cost more to
-// bake than they pay). The timers' ticks come in their real proportions.
-void PlayMinutes(frmPizza *w, int minutes, int &untilCall)
+// loads the car and drives to the oldest order it can fill of at most `largest` pizzas (big
+// orders cost more to bake than they pay). The timers' ticks come in their real proportions.
+void PlayMinutes(frmPizza *w, int minutes, int &untilCall, int largest = 2)
 {
     for (int m = 0; m < minutes && w->evening().isRunning(); ++m) {
         for (int step = 0; step < Evening::BlocksPerMinute; ++step) {
@@ -29,7 +29,7 @@ void PlayMinutes(frmPizza *w, int minutes, int &untilCall)
             const Evening &evening = w->evening();
             int row = -1;
             for (qsizetype i = 0; i < evening.orders().size(); ++i)
-                if (evening.orders()[i].pizzas <= qMin(2, evening.carPizzas())) {
+                if (evening.orders()[i].pizzas <= qMin(largest, evening.carPizzas())) {
                     row = int(i);
                     break;
                 }
@@ -63,10 +63,10 @@ frmPizza *EveningUnderWay()
     Randomize(15);
     w->cmdNew->click();
     int untilCall = Evening::FirstCallMs;
-    PlayMinutes(w, 97, untilCall);
+    PlayMinutes(w, 97, untilCall, Evening::CarLoad);
     // Mid-way through a trip, with a batch in the oven.
     for (int i = 0; i < 5 && !w->timCar->isActive(); ++i)
-        PlayMinutes(w, 1, untilCall);
+        PlayMinutes(w, 1, untilCall, Evening::CarLoad);
     if (w->timCar->isActive())
         w->timCar_Timer();
     for (QTimer *timer : {w->timClock, w->timPhone, w->timBake, w->timCar})
