@@ -2,6 +2,7 @@
 #include "TownMap.h"
 
 #include <cmath>
+#include <numbers>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -243,13 +244,13 @@ void TownMap::drawShop(QPainter &painter) const
     painter.drawEllipse(middle, size * 0.29, size * 0.29);
     painter.setBrush(QColor(0xD3, 0x2F, 0x2F));
     for (int i = 0; i < 5; ++i) {
-        const double angle = i * 2 * M_PI / 5 + 0.4;
+        const double angle = i * 2 * std::numbers::pi / 5 + 0.4;
         painter.drawEllipse(middle + QPointF(std::cos(angle), std::sin(angle)) * size * 0.17,
                             size * 0.06, size * 0.06);
     }
     painter.setPen(QPen(QColor(0xBF, 0x36, 0x0C), qMax(1.0, m_block * 0.04)));
     for (int i = 0; i < 3; ++i) {
-        const double angle = i * M_PI / 3;
+        const double angle = i * std::numbers::pi / 3;
         const QPointF along = QPointF(std::cos(angle), std::sin(angle)) * size * 0.29;
         painter.drawLine(middle - along, middle + along);
     }
