@@ -3,6 +3,7 @@
 #include "Activities.h"
 
 #include "mathrace/frmMRace.h"
+#include "pizza/frmPizza.h"
 #include "stopthief/frmThief.h"
 
 namespace {
@@ -30,6 +31,6 @@ QList<ActivityEntry> Activities()
         {12, QStringLiteral("Keyboarding"), {}, QStringLiteral("typing")},
         // The card games open the one last played: 1 War, 2 Concentration, 3 Blackjack.
         {13, QStringLiteral("\tDeckhand"), {}, QStringLiteral("cards")},
-        {14, QStringLiteral("Pizza Place"), {}, QStringLiteral("pizza")},
+        {14, QStringLiteral("Pizza Place"), opens<frmPizza>(), QStringLiteral("pizza")},
     };
 }
