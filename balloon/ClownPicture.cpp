@@ -171,11 +171,18 @@ void ClownPicture::drawScene(QPainter &painter) const
     drawClown(painter);
     painter.restore();
 
-    // Balloons are tied to his raised hand, or to his belt while his hands are busy.
-    const QPointF knot = juggling ? QPointF(228, 222 + hop) : QPointF(198, 150);
+    // Balloons are tied to his raised hand, or to a peg in the grass while he juggles, out of
+    // the way of the balls.
+    const QPointF knot = juggling ? QPointF(128, Ground - 6) : QPointF(198, 150);
+    const QPointF shift = juggling ? QPointF(-45, 0) : QPointF();
+    if (juggling && m_balloons > 0) {
+        painter.setPen(QPen(Ink, 1.2));
+        painter.setBrush(QColor(0x8D, 0x6E, 0x63));
+        painter.drawRect(QRectF(knot.x() - 3, knot.y() - 2, 6, 14));
+    }
     for (int i = 0; i < m_balloons; ++i) {
         const double bob = juggling ? std::sin(m_frame * 0.22 + i) * 3 : 0;
-        drawBalloon(painter, Slots[i] + QPointF(0, hop + bob), i, knot);
+        drawBalloon(painter, Slots[i] + shift + QPointF(0, bob), i, knot);
     }
     if (m_floating >= 0) {
         const double t = m_floatFrame;
@@ -339,7 +346,7 @@ void ClownPicture::drawClown(QPainter &painter) const
         // Three balls looping over his head.
         for (int i = 0; i < 3; ++i) {
             const double a = m_frame * 0.16 + i * 2 * M_PI / 3;
-            const QPointF ball(251 + 44 * std::cos(a), 96 - 30 * std::abs(std::sin(a)));
+            const QPointF ball(251 + 34 * std::cos(a), 92 - 30 * std::abs(std::sin(a)));
             Disc(painter, ball, 7, balloonColour(i * 2 + 1));
         }
     }

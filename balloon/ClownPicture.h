@@ -29,7 +29,7 @@ public:
 
     static QColor balloonColour(int index);
     QSize sizeHint() const override { return {520, 380}; }
-    QSize minimumSizeHint() const override { return {240, 180}; }
+    QSize minimumSizeHint() const override { return {200, 120}; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;

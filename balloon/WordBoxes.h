@@ -19,7 +19,7 @@ public:
     QString spoken() const;
 
     QSize sizeHint() const override { return {700, 90}; }
-    QSize minimumSizeHint() const override { return {300, 60}; }
+    QSize minimumSizeHint() const override { return {200, 36}; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;

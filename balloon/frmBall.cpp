@@ -10,12 +10,14 @@
 #include "WordBoxes.h"
 
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -68,7 +70,7 @@ frmBall::frmBall(QWidget *parent) : ActivityWindow(QStringLiteral("balloon"), pa
 
     picClown = Named(new ClownPicture(this), QStringLiteral("picClown"));
     picWord = Named(new WordBoxes(this), QStringLiteral("picWord"));
-    picWord->setMinimumHeight(44);
+    picWord->setMinimumHeight(36);
 
     lblMessage = MakeLabel(QStringLiteral("lblMessage"), this);
     lblMessage->setAlignment(Qt::AlignCenter);
@@ -89,10 +91,11 @@ frmBall::frmBall(QWidget *parent) : ActivityWindow(QStringLiteral("balloon"), pa
     lblTried->setStyleSheet(QStringLiteral("color: #BF360C;"));
     lblScore = MakeLabel(QStringLiteral("lblScore"), this);
     lblScore->setAlignment(Qt::AlignCenter);
+    lblScore->setWordWrap(false);
     lblScore->setAccessibleName(tr("Score"));
     lblScore->setStyleSheet(QStringLiteral(
         "QLabel { color: #1B5E20; background: #E8F5E9; border: 2px solid #81C784;"
-        " border-radius: 10px; padding: 4px; }"));
+        " border-radius: 10px; padding: 2px 10px; }"));
 
     auto *letters = Named(new QWidget(this), QStringLiteral("fraLetters"));
     letters->setStyleSheet(QString::fromLatin1(LetterStyle));
@@ -113,7 +116,8 @@ frmBall::frmBall(QWidget *parent) : ActivityWindow(QStringLiteral("balloon"), pa
 
     fraGrade = Named(new QGroupBox(tr("Grade"), this), QStringLiteral("fraGrade"));
     auto *gradeGrid = new QGridLayout(fraGrade);
-    gradeGrid->setContentsMargins(8, 4, 8, 4);
+    gradeGrid->setContentsMargins(8, 2, 8, 2);
+    gradeGrid->setVerticalSpacing(2);
     for (int g = 1; g <= BalloonWords::Grades; ++g) {
         auto *option = Named(new QRadioButton(tr("&%1").arg(g), fraGrade), ArrayName("optGrade", g - 1));
         option->setAccessibleName(tr("Grade %1").arg(g));
@@ -126,7 +130,8 @@ frmBall::frmBall(QWidget *parent) : ActivityWindow(QStringLiteral("balloon"), pa
     }
     fraSource = Named(new QGroupBox(tr("Who picks the word?"), this), QStringLiteral("fraSource"));
     auto *sourceBox = new QVBoxLayout(fraSource);
-    sourceBox->setContentsMargins(8, 4, 8, 4);
+    sourceBox->setContentsMargins(8, 2, 8, 2);
+    sourceBox->setSpacing(2);
     const QString sources[] = {tr("The &computer"), tr("A &friend")};
     for (int i = 0; i < 2; ++i) {
         auto *option = Named(new QRadioButton(sources[i], fraSource), ArrayName("optSource", i));
@@ -155,7 +160,6 @@ frmBall::frmBall(QWidget *parent) : ActivityWindow(QStringLiteral("balloon"), pa
     side->setSpacing(6);
     side->addWidget(fraGrade);
     side->addWidget(fraSource);
-    side->addWidget(lblScore);
     side->addStretch();
 
     auto *top = new QHBoxLayout;
@@ -170,6 +174,8 @@ frmBall::frmBall(QWidget *parent) : ActivityWindow(QStringLiteral("balloon"), pa
     buttons->setSpacing(10);
     buttons->addWidget(cmdNew);
     buttons->addWidget(cmdHint);
+    buttons->addStretch();
+    buttons->addWidget(lblScore);
     buttons->addStretch();
     buttons->addWidget(cmdHelp);
     buttons->addWidget(cmdExit);
@@ -202,7 +208,13 @@ frmBall::frmBall(QWidget *parent) : ActivityWindow(QStringLiteral("balloon"), pa
     lblScore->setText(tr("Words won: %1 of %2").arg(0).arg(0));
     refreshLetters();
     cmdHint->setEnabled(false);
-    resize(1024, 720);
+    // Opens as large as is comfortable, but never larger than the screen (a small laptop at
+    // 200 % has little room), with type to match.
+    QSize size(1024, 720);
+    if (const QScreen *screen = QGuiApplication::primaryScreen())
+        size = size.boundedTo(screen->availableGeometry().size() * 0.95);
+    resize(size);
+    fitFonts();
     if (m_loadError.isEmpty() &&
         TheSettings().balloon.values[0] == BalloonSettings::ComputerPicks) {
         startRound();
@@ -470,8 +482,12 @@ void frmBall::fitFonts()
     for (QWidget *widget : {static_cast<QWidget *>(fraGrade), static_cast<QWidget *>(fraSource),
                             static_cast<QWidget *>(lblTried), static_cast<QWidget *>(lblHint)})
         widget->setFont(plain);
-    for (QRadioButton *option : optGrade + optSource)
+    const int mark = qMax(12, base * 3 / 4);
+    for (QRadioButton *option : optGrade + optSource) {
         option->setFont(plain);
+        option->setStyleSheet(QStringLiteral("QRadioButton::indicator { width: %1px; height: %1px; }")
+                                  .arg(mark));
+    }
     QFont bold = plain;
     bold.setBold(true);
     for (QWidget *widget : {static_cast<QWidget *>(lblScore), static_cast<QWidget *>(cmdNew),
