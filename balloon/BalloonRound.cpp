@@ -23,9 +23,10 @@ void BalloonRound::start(const QString &word, const QString &hint)
     m_word = word;
     m_hint = hint;
     // The hint must never give the answer away, even if a list has it written in.
-    m_hint.replace(QRegularExpression(QStringLiteral("\\b%1\\b").arg(QRegularExpression::escape(word)),
-                                      QRegularExpression::CaseInsensitiveOption),
-                   Blank);
+    m_hint.replace(
+        QRegularExpression(QStringLiteral("\\b%1\\b").arg(QRegularExpression::escape(word)),
+                           QRegularExpression::CaseInsensitiveOption),
+        Blank);
 }
 
 BalloonRound::Guess BalloonRound::guess(QChar letter)

@@ -61,7 +61,8 @@ bool BalloonWords::read(WriteReader &reader)
         // A word the pupil cannot type, or a hint that is empty, would make a round unwinnable
         // or a hint button that shows nothing.
         if (!isPlayable(entry.word))
-            return fail(int(line), 2, QStringLiteral("\"%1\" is not a word to play").arg(entry.word));
+            return fail(int(line), 2,
+                        QStringLiteral("\"%1\" is not a word to play").arg(entry.word));
         if (entry.hint.trimmed().isEmpty())
             return fail(int(line), 3, QStringLiteral("the hint is empty"));
         grades[size_t(grade - 1)].append(entry);

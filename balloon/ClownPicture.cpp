@@ -123,7 +123,8 @@ void ClownPicture::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const double scale = qMin(width() / CanvasWidth, height() / CanvasHeight);
-    const QPointF origin((width() - CanvasWidth * scale) / 2, (height() - CanvasHeight * scale) / 2);
+    const QPointF origin((width() - CanvasWidth * scale) / 2,
+                         (height() - CanvasHeight * scale) / 2);
 
     // Sky and grass fill the whole widget, whatever its shape.
     QLinearGradient sky(0, 0, 0, height());
@@ -279,11 +280,13 @@ void ClownPicture::drawClown(QPainter &painter) const
         painter.drawEllipse(dots[i] + QPointF(0, drop), 3.5, 3.5);
     }
     for (int i = 0; i < 3; ++i)
-        Disc(painter, QPointF(251, 192 + 14 * i + drop), 4.5, balloonColour(i * 2 == 2 ? 4 : i * 2));
+        Disc(painter, QPointF(251, 192 + 14 * i + drop), 4.5,
+             balloonColour(i * 2 == 2 ? 4 : i * 2));
 
     // A frilly white collar.
     for (int i = 0; i < 7; ++i)
-        Disc(painter, QPointF(229 + i * 7.3, 179 + drop + (i % 2) * 2), 6.5, QColor(0xFA, 0xFA, 0xFA));
+        Disc(painter, QPointF(229 + i * 7.3, 179 + drop + (i % 2) * 2), 6.5,
+             QColor(0xFA, 0xFA, 0xFA));
 
     const QPointF head(251, 153 + drop);
     // Orange curly hair on both sides.

@@ -71,7 +71,8 @@ void WordBoxes::paintEvent(QPaintEvent *)
         }
         if (m_cells[i] == Cell::Hidden)
             continue;
-        painter.setPen(m_cells[i] == Cell::Given ? QColor(0xE6, 0x51, 0x00) : QColor(0x0D, 0x47, 0xA1));
+        painter.setPen(m_cells[i] == Cell::Given ? QColor(0xE6, 0x51, 0x00)
+                                                 : QColor(0x0D, 0x47, 0xA1));
         painter.drawText(box, Qt::AlignCenter, QString(c));
     }
 }

@@ -10,8 +10,8 @@
 #include "WordBoxes.h"
 
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -79,9 +79,9 @@ frmBall::frmBall(QWidget *parent) : ActivityWindow(QStringLiteral("balloon"), pa
     lblHint = MakeLabel(QStringLiteral("lblHint"), this);
     lblHint->setAlignment(Qt::AlignCenter);
     lblHint->setAccessibleName(tr("Hint"));
-    lblHint->setStyleSheet(QStringLiteral(
-        "QLabel { color: #4A148C; background: #F3E5F5; border: 2px solid #CE93D8;"
-        " border-radius: 10px; padding: 2px 8px; }"));
+    lblHint->setStyleSheet(
+        QStringLiteral("QLabel { color: #4A148C; background: #F3E5F5; border: 2px solid #CE93D8;"
+                       " border-radius: 10px; padding: 2px 8px; }"));
     QSizePolicy keep = lblHint->sizePolicy();
     keep.setRetainSizeWhenHidden(true);
     lblHint->setSizePolicy(keep);
@@ -93,9 +93,9 @@ frmBall::frmBall(QWidget *parent) : ActivityWindow(QStringLiteral("balloon"), pa
     lblScore->setAlignment(Qt::AlignCenter);
     lblScore->setWordWrap(false);
     lblScore->setAccessibleName(tr("Score"));
-    lblScore->setStyleSheet(QStringLiteral(
-        "QLabel { color: #1B5E20; background: #E8F5E9; border: 2px solid #81C784;"
-        " border-radius: 10px; padding: 2px 10px; }"));
+    lblScore->setStyleSheet(
+        QStringLiteral("QLabel { color: #1B5E20; background: #E8F5E9; border: 2px solid #81C784;"
+                       " border-radius: 10px; padding: 2px 10px; }"));
 
     auto *letters = Named(new QWidget(this), QStringLiteral("fraLetters"));
     letters->setStyleSheet(QString::fromLatin1(LetterStyle));
@@ -119,7 +119,8 @@ frmBall::frmBall(QWidget *parent) : ActivityWindow(QStringLiteral("balloon"), pa
     gradeGrid->setContentsMargins(8, 2, 8, 2);
     gradeGrid->setVerticalSpacing(2);
     for (int g = 1; g <= BalloonWords::Grades; ++g) {
-        auto *option = Named(new QRadioButton(tr("&%1").arg(g), fraGrade), ArrayName("optGrade", g - 1));
+        auto *option =
+            Named(new QRadioButton(tr("&%1").arg(g), fraGrade), ArrayName("optGrade", g - 1));
         option->setAccessibleName(tr("Grade %1").arg(g));
         connect(option, &QRadioButton::toggled, this, [this, g](bool on) {
             if (on)
@@ -203,7 +204,8 @@ frmBall::frmBall(QWidget *parent) : ActivityWindow(QStringLiteral("balloon"), pa
     connect(cmdExit, &QPushButton::clicked, this, &frmBall::onExit);
 
     // Damaged values are set right in the shared settings too, so they are saved right.
-    TheSettings().balloon.values = BalloonSettings::fromValues(TheSettings().balloon.values).values();
+    TheSettings().balloon.values =
+        BalloonSettings::fromValues(TheSettings().balloon.values).values();
     showSettings();
     lblScore->setText(tr("Words won: %1 of %2").arg(0).arg(0));
     refreshLetters();
@@ -341,7 +343,8 @@ void frmBall::guessLetter(QChar letter)
         break;
     }
     picWord->showRound(m_round);
-    lblTried->setText(tr("Tried: %1").arg(m_round.tried().split(QString(), Qt::SkipEmptyParts).join(u' ')));
+    lblTried->setText(
+        tr("Tried: %1").arg(m_round.tried().split(QString(), Qt::SkipEmptyParts).join(u' ')));
     refreshLetters();
     if (!m_round.isRunning())
         finishRound();
@@ -385,7 +388,8 @@ void frmBall::finishRound()
     }
     if (!m_round.hint().isEmpty()) {
         // The sentence reads best with its word in place, once the word is no secret.
-        lblHint->setText(QString(m_round.hint()).replace(QStringLiteral("___"), m_round.word().toLower()));
+        lblHint->setText(
+            QString(m_round.hint()).replace(QStringLiteral("___"), m_round.word().toLower()));
         lblHint->show();
     }
     picWord->showRound(m_round);
@@ -459,7 +463,8 @@ void frmBall::refreshLetters()
 void frmBall::keyPressEvent(QKeyEvent *event)
 {
     const QString text = event->text();
-    const bool plain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    const bool plain =
+        !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
     if (plain && text.size() == 1 && text.at(0).isLetter() && text.at(0).unicode() < 128) {
         guessLetter(text.at(0));
         return;
@@ -485,8 +490,8 @@ void frmBall::fitFonts()
     const int mark = qMax(12, base * 3 / 4);
     for (QRadioButton *option : optGrade + optSource) {
         option->setFont(plain);
-        option->setStyleSheet(QStringLiteral("QRadioButton::indicator { width: %1px; height: %1px; }")
-                                  .arg(mark));
+        option->setStyleSheet(
+            QStringLiteral("QRadioButton::indicator { width: %1px; height: %1px; }").arg(mark));
     }
     QFont bold = plain;
     bold.setBold(true);

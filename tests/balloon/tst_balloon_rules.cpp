@@ -31,11 +31,21 @@ QString Play(BalloonRound &round, const QString &guesses)
     QString results;
     for (QChar c : guesses) {
         switch (round.guess(c)) {
-        case BalloonRound::Guess::Right: results += u'R'; break;
-        case BalloonRound::Guess::Wrong: results += u'W'; break;
-        case BalloonRound::Guess::AlreadyTried: results += u'A'; break;
-        case BalloonRound::Guess::NotALetter: results += u'N'; break;
-        case BalloonRound::Guess::Over: results += u'O'; break;
+        case BalloonRound::Guess::Right:
+            results += u'R';
+            break;
+        case BalloonRound::Guess::Wrong:
+            results += u'W';
+            break;
+        case BalloonRound::Guess::AlreadyTried:
+            results += u'A';
+            break;
+        case BalloonRound::Guess::NotALetter:
+            results += u'N';
+            break;
+        case BalloonRound::Guess::Over:
+            results += u'O';
+            break;
         }
     }
     return results;
@@ -62,17 +72,56 @@ void tst_balloon_rules::roundPlays_data()
     QTest::addColumn<QString>("state");
     QTest::addColumn<QString>("wrong");
 
-    QTest::newRow("marks shown from the start") << "DON'T-STOP" << "" << "" << "___'_-____" << 6 << "running" << "";
-    QTest::newRow("one letter fills every box") << "APPLE" << "P" << "R" << "_PP__" << 6 << "running" << "";
-    QTest::newRow("small letters count") << "APPLE" << "pz" << "RW" << "_PP__" << 5 << "running" << "Z";
-    QTest::newRow("a repeat costs nothing") << "APPLE" << "ZzZpP" << "WAARA" << "_PP__" << 5 << "running" << "Z";
-    QTest::newRow("digits and marks are no guess") << "X-RAY" << "7-' " << "NNNN" << "_-___" << 6 << "running" << "";
-    QTest::newRow("every letter wins") << "X-RAY" << "yarx" << "RRRR" << "X-RAY" << 6 << "won" << "";
-    QTest::newRow("five misses still play") << "CAT" << "BDEFG" << "WWWWW" << "___" << 1 << "running" << "BDEFG";
-    QTest::newRow("six misses lose and show the word")
-        << "CAT" << "BDEFGHC" << "WWWWWWO" << "CAT" << 0 << "lost" << "BDEFGH";
-    QTest::newRow("nothing after a win") << "OX" << "OXA" << "RRO" << "OX" << 6 << "won" << "";
-    QTest::newRow("no word, no round") << "C4T" << "C" << "O" << "" << 6 << "none" << "";
+    QTest::newRow("marks shown from the start") << "DON'T-STOP"
+                                                << ""
+                                                << ""
+                                                << "___'_-____" << 6 << "running"
+                                                << "";
+    QTest::newRow("one letter fills every box") << "APPLE"
+                                                << "P"
+                                                << "R"
+                                                << "_PP__" << 6 << "running"
+                                                << "";
+    QTest::newRow("small letters count") << "APPLE"
+                                         << "pz"
+                                         << "RW"
+                                         << "_PP__" << 5 << "running"
+                                         << "Z";
+    QTest::newRow("a repeat costs nothing") << "APPLE"
+                                            << "ZzZpP"
+                                            << "WAARA"
+                                            << "_PP__" << 5 << "running"
+                                            << "Z";
+    QTest::newRow("digits and marks are no guess") << "X-RAY"
+                                                   << "7-' "
+                                                   << "NNNN"
+                                                   << "_-___" << 6 << "running"
+                                                   << "";
+    QTest::newRow("every letter wins") << "X-RAY"
+                                       << "yarx"
+                                       << "RRRR"
+                                       << "X-RAY" << 6 << "won"
+                                       << "";
+    QTest::newRow("five misses still play") << "CAT"
+                                            << "BDEFG"
+                                            << "WWWWW"
+                                            << "___" << 1 << "running"
+                                            << "BDEFG";
+    QTest::newRow("six misses lose and show the word") << "CAT"
+                                                       << "BDEFGHC"
+                                                       << "WWWWWWO"
+                                                       << "CAT" << 0 << "lost"
+                                                       << "BDEFGH";
+    QTest::newRow("nothing after a win") << "OX"
+                                         << "OXA"
+                                         << "RRO"
+                                         << "OX" << 6 << "won"
+                                         << "";
+    QTest::newRow("no word, no round") << "C4T"
+                                       << "C"
+                                       << "O"
+                                       << "" << 6 << "none"
+                                       << "";
 }
 
 void tst_balloon_rules::roundPlays()

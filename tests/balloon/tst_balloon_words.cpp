@@ -31,7 +31,8 @@ void tst_balloon_words::everyGradeHasGoodWords()
         const QString where = QStringLiteral("line %1 (%2)").arg(line).arg(word);
         QVERIFY2(grade >= 1 && grade <= 6, qPrintable(where));
         QVERIFY2(spelling.match(word).hasMatch(), qPrintable(where + QStringLiteral(": spelling")));
-        QVERIFY2(!grades[grade - 1].contains(word), qPrintable(where + QStringLiteral(": repeated")));
+        QVERIFY2(!grades[grade - 1].contains(word),
+                 qPrintable(where + QStringLiteral(": repeated")));
         grades[grade - 1].insert(word);
         QVERIFY2(hint.count(QStringLiteral("___")) == 1,
                  qPrintable(where + QStringLiteral(": the hint needs one blank")));
@@ -44,8 +45,9 @@ void tst_balloon_words::everyGradeHasGoodWords()
     }
     QVERIFY(in.expectEnd());
     for (int g = 0; g < 6; ++g)
-        QVERIFY2(grades[g].size() >= 120,
-                 qPrintable(QStringLiteral("grade %1 has %2 words").arg(g + 1).arg(grades[g].size())));
+        QVERIFY2(
+            grades[g].size() >= 120,
+            qPrintable(QStringLiteral("grade %1 has %2 words").arg(g + 1).arg(grades[g].size())));
 
     BalloonWords words;
     QVERIFY2(words.load(BuiltDataPath() + QStringLiteral("/balloon.dat")),
