@@ -14,6 +14,8 @@ constexpr double CanvasHeight = 300;
 constexpr double Ground = 262;
 constexpr int FrameMs = 40;
 constexpr int FloatFrames = 30;
+// He juggles for about six seconds and lands on his feet; a still picture spares the laptop.
+constexpr int JuggleFrames = 143;
 
 // Where each of the six balloons floats while the clown holds it.
 const QPointF Slots[ClownPicture::MaxBalloons] = {{112, 80}, {152, 46}, {198, 34},
@@ -64,11 +66,17 @@ QColor ClownPicture::balloonColour(int index)
     return colours[qBound(0, index, MaxBalloons - 1)];
 }
 
+void ClownPicture::describe()
+{
+    setAccessibleDescription(m_balloons == 1 ? tr("The clown holds one balloon.")
+                                             : tr("The clown holds %1 balloons.").arg(m_balloons));
+}
+
 void ClownPicture::setBalloons(int count)
 {
     m_balloons = qBound(0, count, int(MaxBalloons));
     m_floating = -1;
-    setAccessibleDescription(tr("The clown holds %n balloon(s).", nullptr, m_balloons));
+    describe();
     if (m_mood != Mood::Juggling)
         m_timer->stop();
     update();
@@ -81,7 +89,7 @@ void ClownPicture::releaseBalloon()
     --m_balloons;
     m_floating = m_balloons;
     m_floatFrame = 0;
-    setAccessibleDescription(tr("The clown holds %n balloon(s).", nullptr, m_balloons));
+    describe();
     m_timer->start();
     update();
 }
@@ -113,7 +121,8 @@ void ClownPicture::tick()
     ++m_frame;
     if (m_floating >= 0 && ++m_floatFrame > FloatFrames)
         m_floating = -1;
-    if (m_floating < 0 && m_mood != Mood::Juggling)
+    const bool juggling = m_mood == Mood::Juggling && m_frame < JuggleFrames;
+    if (m_floating < 0 && !juggling)
         m_timer->stop();
     update();
 }

@@ -36,6 +36,7 @@ protected:
 
 private:
     void tick();
+    void describe();
     void drawScene(class QPainter &painter) const;
     void drawBalloon(QPainter &painter, QPointF centre, int index, QPointF knot) const;
     void drawClown(QPainter &painter) const;

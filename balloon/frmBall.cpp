@@ -300,9 +300,12 @@ void frmBall::startRound()
     cmdHint->setEnabled(!m_round.hint().isEmpty());
     refreshLetters();
     setRunningCaption(cmdExit, true);
-    say(fromFriend ? tr("Your friend's word has %n letter box(es). Guess a letter!", nullptr,
-                        int(word.size()))
-                   : tr("Guess a letter! Type it or click it."));
+    if (!fromFriend)
+        say(tr("Guess a letter! Type it or click it."));
+    else if (word.size() == 1)
+        say(tr("Your friend's word has one box. Guess a letter!"));
+    else
+        say(tr("Your friend's word has %1 boxes. Guess a letter!").arg(word.size()));
 }
 
 bool frmBall::askFriend()
@@ -387,9 +390,9 @@ void frmBall::finishRound()
         say(tr("Oh, the balloons are all gone! The word was %1.").arg(m_round.word()));
     }
     if (!m_round.hint().isEmpty()) {
-        // The sentence reads best with its word in place, once the word is no secret.
-        lblHint->setText(
-            QString(m_round.hint()).replace(QStringLiteral("___"), m_round.word().toLower()));
+        // Once the word is no secret the sentence shows it in place, in capitals as in the
+        // boxes, so the pupil sees the spelling at work.
+        lblHint->setText(QString(m_round.hint()).replace(QStringLiteral("___"), m_round.word()));
         lblHint->show();
     }
     picWord->showRound(m_round);
@@ -481,7 +484,7 @@ void frmBall::resizeEvent(QResizeEvent *event)
 void frmBall::fitFonts()
 {
     // Type grows with the window and shrinks on a small or much-scaled screen.
-    const int base = qBound(11, qMin(height() / 34, width() / 48), 24);
+    const int base = qBound(11, qMin(height() / 34, width() / 48), 28);
     QFont plain = font();
     plain.setPixelSize(base);
     for (QWidget *widget : {static_cast<QWidget *>(fraGrade), static_cast<QWidget *>(fraSource),
