@@ -99,6 +99,7 @@ frmBall::frmBall(QWidget *parent) : ActivityWindow(QStringLiteral("balloon"), pa
 
     auto *letters = Named(new QWidget(this), QStringLiteral("fraLetters"));
     letters->setStyleSheet(QString::fromLatin1(LetterStyle));
+    letters->setAccessibleName(tr("Alphabet"));
     auto *letterGrid = new QGridLayout(letters);
     letterGrid->setContentsMargins(0, 0, 0, 0);
     letterGrid->setSpacing(4);
@@ -115,6 +116,7 @@ frmBall::frmBall(QWidget *parent) : ActivityWindow(QStringLiteral("balloon"), pa
     }
 
     fraGrade = Named(new QGroupBox(tr("Grade"), this), QStringLiteral("fraGrade"));
+    fraGrade->setAccessibleName(tr("Grade"));
     auto *gradeGrid = new QGridLayout(fraGrade);
     gradeGrid->setContentsMargins(8, 2, 8, 2);
     gradeGrid->setVerticalSpacing(2);
@@ -130,6 +132,7 @@ frmBall::frmBall(QWidget *parent) : ActivityWindow(QStringLiteral("balloon"), pa
         optGrade.append(option);
     }
     fraSource = Named(new QGroupBox(tr("Who picks the word?"), this), QStringLiteral("fraSource"));
+    fraSource->setAccessibleName(tr("Who picks the word?"));
     auto *sourceBox = new QVBoxLayout(fraSource);
     sourceBox->setContentsMargins(8, 2, 8, 2);
     sourceBox->setSpacing(2);
@@ -276,7 +279,8 @@ void frmBall::startRound()
 {
     QString word;
     QString hint;
-    bool fromFriend = TheSettings().balloon.values[0] == BalloonSettings::FriendTypes;
+    const bool asked = TheSettings().balloon.values[0] == BalloonSettings::FriendTypes;
+    bool fromFriend = asked;
     if (fromFriend && askFriend()) {
         word = InputWord();
     } else {
@@ -300,7 +304,9 @@ void frmBall::startRound()
     cmdHint->setEnabled(!m_round.hint().isEmpty());
     refreshLetters();
     setRunningCaption(cmdExit, true);
-    if (!fromFriend)
+    if (asked && !fromFriend)
+        say(tr("No secret word was typed, so the computer picked one. Guess a letter!"));
+    else if (!fromFriend)
         say(tr("Guess a letter! Type it or click it."));
     else if (word.size() == 1)
         say(tr("Your friend's word has one box. Guess a letter!"));
