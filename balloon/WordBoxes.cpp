@@ -51,7 +51,8 @@ void WordBoxes::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     const int n = int(m_word.size());
     // Square boxes as big as the height allows, narrower when the word is long.
-    const double gap = qMax(3.0, height() * 0.08);
+    // Gaps take at most a fifth of the width, so a long word on a narrow window still fits.
+    const double gap = qMax(1.0, qMin(height() * 0.08, width() * 0.2 / (n + 1)));
     const double side = qMin(height() - 4.0, (width() - gap * (n + 1)) / n);
     const double total = n * side + (n - 1) * gap;
     double x = (width() - total) / 2;
