@@ -2,6 +2,7 @@
 // The one list of the activities the menu opens.
 #include "Activities.h"
 
+#include "balloon/frmBall.h"
 #include "mathrace/frmMRace.h"
 #include "pizza/frmPizza.h"
 #include "stopthief/frmThief.h"
@@ -17,7 +18,7 @@ QList<ActivityEntry> Activities()
 {
     return {
         {0, QStringLiteral("World Geography"), {}, QStringLiteral("worldgeography")},
-        {1, QStringLiteral("Balloon Man"), {}, QStringLiteral("balloon")},
+        {1, QStringLiteral("Balloon Man"), opens<frmBall>(), QStringLiteral("balloon")},
         {2, QStringLiteral("Space Race"), {}, QStringLiteral("spacerace")},
         {3, QStringLiteral("Higher Math"), {}, QStringLiteral("mathtutor")},
         {4, QStringLiteral("\tMath Race"), opens<frmMRace>(), QStringLiteral("mathrace")},

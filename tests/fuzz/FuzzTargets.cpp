@@ -3,6 +3,7 @@
 
 #include "shell/core/Settings.h"
 #include "shell/core/WriteFormat.h"
+#include "balloon/BalloonWords.h"
 #include "stopthief/ThiefData.h"
 
 #include <cstdio>
@@ -95,6 +96,18 @@ void thiefData(const QByteArray &input)
     ThiefData data;
     expectHonestError(data.parse(input), data.error(), input);
 }
+
+// A word list that reads holds only words a pupil can play.
+void balloonWords(const QByteArray &input)
+{
+    BalloonWords words;
+    const bool ok = words.parse(input);
+    expectHonestError(ok, words.error(), input);
+    for (int grade = 1; ok && grade <= BalloonWords::Grades; ++grade)
+        for (const BalloonWord &word : words.grade(grade))
+            if (!BalloonWords::isPlayable(word.word))
+                FuzzFail("an unplayable balloon word was read", input);
+}
 } // namespace
 
 const QList<FuzzTarget> &FuzzTargets()
@@ -103,6 +116,7 @@ const QList<FuzzTarget> &FuzzTargets()
         {"writeformat", {"lumbridle52.ini", "thief.dat", "usgeo.dat"}, writeFormatRoundTrip},
         {"settings", {"lumbridle52.ini"}, settingsFile},
         {"thief", {"thief.dat"}, thiefData},
+        {"balloon", {"balloon.dat"}, balloonWords},
     };
     return targets;
 }

@@ -21,3 +21,4 @@ QList<Scene> shellScenes();
 QList<Scene> mathraceScenes();
 QList<Scene> stopthiefScenes();
 QList<Scene> pizzaScenes();
+QList<Scene> balloonScenes();
