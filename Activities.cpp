@@ -3,6 +3,7 @@
 #include "Activities.h"
 
 #include "mathrace/frmMRace.h"
+#include "spacerace/frmSRace.h"
 #include "stopthief/frmThief.h"
 
 namespace {
@@ -17,7 +18,7 @@ QList<ActivityEntry> Activities()
     return {
         {0, QStringLiteral("World Geography"), {}, QStringLiteral("worldgeography")},
         {1, QStringLiteral("Balloon Man"), {}, QStringLiteral("balloon")},
-        {2, QStringLiteral("Space Race"), {}, QStringLiteral("spacerace")},
+        {2, QStringLiteral("Space Race"), opens<frmSRace>(), QStringLiteral("spacerace")},
         {3, QStringLiteral("Higher Math"), {}, QStringLiteral("mathtutor")},
         {4, QStringLiteral("\tMath Race"), opens<frmMRace>(), QStringLiteral("mathrace")},
         {5, QStringLiteral("Lemonade Stand"), {}, QStringLiteral("lemonade")},
