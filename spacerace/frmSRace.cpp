@@ -165,6 +165,13 @@ void frmSRace::sizeWord()
     big.setPixelSize(qBound(22, qMin(height() / 14, byWidth), 90));
     for (QLabel *label : {lblWord, lblFlash, lblanswer})
         label->setFont(big);
+    // The turn's message and the game's name grow with the window too.
+    QFont message = lblMessage->font();
+    message.setPixelSize(qBound(18, height() / 28, 40));
+    lblMessage->setFont(message);
+    QFont title = lblTitle->font();
+    title.setPixelSize(qBound(24, height() / 22, 52));
+    lblTitle->setFont(title);
     lblWord->setMinimumHeight(QFontMetrics(big).height());
     lblFlash->setMinimumHeight(QFontMetrics(big).height());
     lblanswer->setMinimumHeight(QFontMetrics(big).height());

@@ -103,7 +103,8 @@ QList<Scene> spaceraceScenes()
              auto *options = new optSRace;
              options->setAttribute(Qt::WA_DeleteOnClose);
              return options;
-         }},
+         },
+         QSize(1000, 580)},
         {QStringLiteral("spacerace-open"), [] { return new frmSRace; }},
         {QStringLiteral("spacerace-flasher"), [] { return RaceUnderWay(1); }},
         {QStringLiteral("spacerace-scrambler"), [] { return RaceUnderWay(2); }},
