@@ -223,7 +223,7 @@ QSize SkyView::sizeHint() const
 
 QSize SkyView::minimumSizeHint() const
 {
-    return {240, 200};
+    return {160, 120};
 }
 
 void SkyView::paintEvent(QPaintEvent *)

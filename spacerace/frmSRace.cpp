@@ -2,6 +2,7 @@
 #include "frmSRace.h"
 
 #include "optSRace.h"
+#include "ScreenFit.h"
 #include "shell/core/DataPath.h"
 #include "shell/frmResults.h"
 #include "shell/Services.h"
@@ -11,10 +12,12 @@
 
 #include <QCloseEvent>
 #include <QFrame>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace {
@@ -25,7 +28,6 @@ QPushButton *MakeButton(const QString &caption, const QString &name, const char 
     auto *button = Named(new QPushButton(caption, parent), name);
     // Enter presses the button that has the focus, so the race runs from the keyboard alone.
     button->setAutoDefault(true);
-    button->setMinimumSize(130, 44);
     button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     QFont font(QStringLiteral("Comic Sans MS"));
     font.setPointSize(14);
@@ -71,7 +73,6 @@ frmSRace::frmSRace(QWidget *parent) : ActivityWindow(QStringLiteral("spacerace")
     lblMessage->setTextFormat(Qt::PlainText);
     lblMessage->setAlignment(Qt::AlignCenter);
     lblMessage->setWordWrap(true);
-    lblMessage->setMinimumHeight(90);
     ScaleFont(lblMessage, 1.15, true);
 
     lblNames = Named(new QLabel(this), QStringLiteral("lblNames"));
@@ -99,7 +100,6 @@ frmSRace::frmSRace(QWidget *parent) : ActivityWindow(QStringLiteral("spacerace")
     panelLayout->addWidget(lblanswer);
 
     cmdOK = MakeButton(tr("&Flash Word"), QStringLiteral("cmdOK"), "#2E7D32", this);
-    cmdOK->setMinimumWidth(180);
     cmdNew = MakeButton(tr("&New Game"), QStringLiteral("cmdNew"), "#1565C0", this);
     cmdOptions = MakeButton(tr("&Options"), QStringLiteral("cmdOptions"), "#6A1B9A", this);
     cmdHelp = MakeButton(tr("&Help"), QStringLiteral("cmdHelp"), "#00838F", this);
@@ -110,11 +110,15 @@ frmSRace::frmSRace(QWidget *parent) : ActivityWindow(QStringLiteral("spacerace")
     side->addWidget(lblTitle);
     side->addWidget(lblMessage, 1);
     side->addWidget(cmdOK);
-    side->addSpacing(12);
-    side->addWidget(cmdNew);
-    side->addWidget(cmdOptions);
-    side->addWidget(cmdHelp);
-    side->addWidget(cmdExit);
+    side->addSpacing(6);
+    // Two by two, so the window stays short enough for a small screen at large scaling.
+    auto *gameButtons = new QGridLayout;
+    gameButtons->setSpacing(8);
+    gameButtons->addWidget(cmdNew, 0, 0);
+    gameButtons->addWidget(cmdOptions, 0, 1);
+    gameButtons->addWidget(cmdHelp, 1, 0);
+    gameButtons->addWidget(cmdExit, 1, 1);
+    side->addLayout(gameButtons);
 
     auto *top = new QHBoxLayout;
     top->setSpacing(12);
@@ -150,7 +154,7 @@ frmSRace::frmSRace(QWidget *parent) : ActivityWindow(QStringLiteral("spacerace")
     const Settings::SpaceRace &settings = TheSettings().spaceRace;
     showLineUp(qBound(1, int(settings.players), int(RocketRace::MaxPlayers)),
                QStringList(settings.names.begin(), settings.names.end()));
-    resize(1024, 720);
+    ResizeWithinScreen(this, QSize(1024, 720));
     sizeWord();
     cmdNew->setFocus();
 }
@@ -162,19 +166,31 @@ void frmSRace::sizeWord()
     big.setBold(true);
     big.setFamily(QStringLiteral("Courier New"));
     const int byWidth = m_wordPanel->width() > 100 ? (m_wordPanel->width() - 40) / 16 * 10 / 6 : 40;
-    big.setPixelSize(qBound(22, qMin(height() / 14, byWidth), 90));
+    // Before the window first fits its screen, its height may be more than the screen has.
+    const int tall = screen() ? qMin(height(), screen()->availableGeometry().height()) : height();
+    big.setPixelSize(qBound(16, qMin(tall / 15, byWidth), 90));
     for (QLabel *label : {lblWord, lblFlash, lblanswer})
         label->setFont(big);
     // The turn's message and the game's name grow with the window too.
     QFont message = lblMessage->font();
-    message.setPixelSize(qBound(18, height() / 28, 40));
+    message.setPixelSize(qBound(12, tall / 28, 40));
     lblMessage->setFont(message);
     QFont title = lblTitle->font();
-    title.setPixelSize(qBound(24, height() / 22, 52));
+    title.setPixelSize(qBound(16, tall / 22, 52));
     lblTitle->setFont(title);
     lblWord->setMinimumHeight(QFontMetrics(big).height());
     lblFlash->setMinimumHeight(QFontMetrics(big).height());
     lblanswer->setMinimumHeight(QFontMetrics(big).height());
+}
+
+void frmSRace::showEvent(QShowEvent *event)
+{
+    if (!m_fitted) {
+        m_fitted = true;
+        ShrinkToScreen(this);
+        sizeWord();
+    }
+    ActivityWindow::showEvent(event);
 }
 
 void frmSRace::resizeEvent(QResizeEvent *event)

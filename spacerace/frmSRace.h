@@ -37,6 +37,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     void sizeWord();
@@ -64,4 +65,5 @@ private:
     QString m_rocketSound;
     QString m_uhOhSound;
     QString m_tadaSound;
+    bool m_fitted = false;
 };

@@ -2,6 +2,7 @@
 #include "optSRace.h"
 
 #include "RocketRace.h"
+#include "ScreenFit.h"
 #include "shell/core/DataPath.h"
 #include "shell/core/Settings.h"
 #include "shell/Services.h"
@@ -40,7 +41,6 @@ QPushButton *ListButton(const QString &caption, const QString &name, QWidget *pa
 {
     auto *button = Named(new QPushButton(caption, parent), name);
     button->setFont(BaseFont(1, true));
-    button->setMinimumHeight(40);
     button->setAutoDefault(false);
     StyleBrightButton(button, QColor(0x6A, 0x1B, 0x9A), 10);
     return button;
@@ -144,13 +144,14 @@ optSRace::optSRace(QWidget *parent) : QDialog(parent)
     cmdOpen = ListButton(tr("&Open List"), QStringLiteral("cmdOpen"), Frame[4]);
     cmdSave = ListButton(tr("&Save List"), QStringLiteral("cmdSave"), Frame[4]);
     cmdPrint = ListButton(tr("&Print List"), QStringLiteral("cmdPrint"), Frame[4]);
-    auto *listButtons = new QHBoxLayout(Frame[4]);
+    auto *listButtons = new QVBoxLayout(Frame[4]);
     for (QPushButton *button : {cmdNew, cmdOpen, cmdSave, cmdPrint})
         listButtons->addWidget(button);
+    listButtons->addStretch();
 
     cmdOK = Named(new QPushButton(tr("OK"), this), QStringLiteral("cmdOK"));
     cmdOK->setFont(BaseFont(1.2, true));
-    cmdOK->setMinimumSize(120, 48);
+    cmdOK->setMinimumWidth(100);
     cmdOK->setAutoDefault(false);
     StyleBrightButton(cmdOK, QColor(0x2E, 0x7D, 0x32));
 
@@ -166,8 +167,12 @@ optSRace::optSRace(QWidget *parent) : QDialog(parent)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 6, 12, 10);
     layout->setSpacing(6);
-    layout->addWidget(Frame[0]);
-    layout->addWidget(Frame[4]);
+    // The list's buttons stand beside the list, keeping the window short for small screens.
+    auto *upper = new QHBoxLayout;
+    upper->setSpacing(8);
+    upper->addWidget(Frame[0], 1);
+    upper->addWidget(Frame[4]);
+    layout->addLayout(upper);
     layout->addLayout(lower);
     layout->addStretch();
 
@@ -227,7 +232,7 @@ void optSRace::buildListFrame(QGroupBox *frame)
         number->setStyleSheet(QStringLiteral("color: #3949AB;"));
         auto *box = Named(new WordBox(frame), ArrayName("txtWord", i + 1));
         box->setAccessibleName(tr("Word %1").arg(i + 1));
-        box->setMinimumWidth(90);
+        box->setMinimumWidth(60);
         box->setFont(BaseFont(1.2, true));
         number->setBuddy(box);
         const int row = i % Rows;
@@ -437,5 +442,6 @@ void optSRace::done(int result)
 void optSRace::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
+    ShrinkToScreen(this);
     CentreOnScreen(this);
 }
