@@ -17,19 +17,15 @@ private slots:
     void damagedFilesAreRefused_data();
     void damagedFilesAreRefused();
     void filesOnDisk();
-    void nameFromPath_data();
-    void nameFromPath();
-    void boxKeys();
-    void advanceRoundsHalfToEven_data();
-    void advanceRoundsHalfToEven();
+    void namesAndKeys();
+    void advance_data();
+    void advance();
     void wrongLettersCostSteps();
     void scramblerGivesAwayTheFirstTwoLetters();
     void scrambleNeverShowsTheWord();
-    void flasherShowsTheWordTwiceAtMost();
-    void marksAreFilledIn();
+    void flashesAndMarks();
     void ordersAreReshuffledAfterEveryWord();
     void raceEndsAfterTheRoundWithSharedWins();
-    void damagedSettingsArePlayable();
 };
 
 namespace {
@@ -52,7 +48,7 @@ Settings::SpaceRace Game(int players, qint16 game)
     return s;
 }
 
-// Types the rest of the current word without a mistake.
+// Types the rest of the current word without a mistake, in small letters.
 RocketRace::KeyResult SpellRest(RocketRace &race)
 {
     RocketRace::KeyResult last = RocketRace::KeyResult::Ignored;
@@ -71,7 +67,6 @@ void tst_spacerace_rules::listFileRoundTrip_data()
     QTest::newRow("three words") << 3;
     QTest::newRow("twelve words") << 12;
     QTest::newRow("twenty words") << 20;
-    QTest::newRow("no words") << 0;
 }
 
 void tst_spacerace_rules::listFileRoundTrip()
@@ -81,13 +76,8 @@ void tst_spacerace_rules::listFileRoundTrip()
     list.words = Words(count);
     const QByteArray file = list.format();
     QCOMPARE(file.count('\n'), count + 1);
-    const QList<QByteArray> lines = file.split('\n');
-    QCOMPARE(lines[0], QByteArray::number(count));
     if (count == 3)
         QCOMPARE(file, QByteArray("3\n\"CAT\"\n\"DOG\"\n\"SUN\"\n"));
-    for (int i = 0; i < count; ++i)
-        QCOMPARE(lines[i + 1], '"' + list.words[i].toLatin1() + '"');
-
     FileError error;
     const std::optional<WordList> back = WordList::parse(file, "/lists/week1.srl", &error);
     QVERIFY2(back, qPrintable(error.message()));
@@ -102,17 +92,12 @@ void tst_spacerace_rules::damagedFilesAreRefused_data()
     QTest::addColumn<int>("line");
     QTest::addColumn<QString>("problem");
     QTest::newRow("too many words") << QByteArray("21\n\"CAT\"\n") << 1 << "0 to 20";
-    QTest::newRow("negative count") << QByteArray("-1\n") << 1 << "0 to 20";
     QTest::newRow("huge count") << QByteArray("99999\n") << 1 << "outside";
-    QTest::newRow("count not a number") << QByteArray("three\n\"CAT\"\n") << 1 << "whole number";
     QTest::newRow("a digit in a word") << QByteArray("2\n\"CAT\"\n\"D0G\"\n") << 3 << "D0G";
-    QTest::newRow("a blank in a word") << QByteArray("1\n\"ICE CREAM\"\n") << 2 << "ICE CREAM";
     QTest::newRow("a missing line") << QByteArray("3\n\"CAT\"\n\"DOG\"\n") << 4 << "missing";
     QTest::newRow("a line too many") << QByteArray("1\n\"CAT\"\n\"DOG\"\n") << 3 << "more lines";
-    QTest::newRow("two words on a line") << QByteArray("1\n\"CAT\",\"DOG\"\n") << 2 << "items";
     QTest::newRow("an empty word") << QByteArray("1\n\"\"\n") << 2 << "empty";
     QTest::newRow("sixteen letters") << QByteArray("1\n\"ABCDEFGHIJKLMNOP\"\n") << 2 << "15";
-    QTest::newRow("an open quote") << QByteArray("1\n\"CAT\n") << 2 << "not closed";
     QTest::newRow("an empty file") << QByteArray() << 1 << "missing";
 }
 
@@ -131,92 +116,47 @@ void tst_spacerace_rules::damagedFilesAreRefused()
 void tst_spacerace_rules::filesOnDisk()
 {
     QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("spelling.srl"));
-    WordList list;
-    list.words = Words(5);
-    QVERIFY(list.write(path));
-    std::optional<WordList> back = WordList::read(path);
-    QVERIFY(back);
-    QCOMPARE(back->words, list.words);
-    QCOMPARE(back->name, QStringLiteral("spelling"));
-
-    // Small letters written by hand come back as capitals.
     QFile hand(folder.filePath(QStringLiteral("hand.srl")));
     QVERIFY(hand.open(QIODevice::WriteOnly));
     hand.write("2\r\n\"don't\"\r\n  \"Jump-rope\"  \r\n");
     hand.close();
-    back = WordList::read(hand.fileName());
+    std::optional<WordList> back = WordList::read(hand.fileName());
     QVERIFY(back);
-    QCOMPARE(back->words, QStringList({"DON'T", "JUMP-ROPE"}));
+    QCOMPARE(back->words, QStringList({"DON'T", "JUMP-ROPE"})); // small letters become capitals
 
     FileError error;
     QVERIFY(!WordList::read(folder.filePath(QStringLiteral("missing.srl")), &error));
     QVERIFY(error.message().contains(QLatin1String("cannot be opened")));
-    QVERIFY(!list.write(folder.filePath(QStringLiteral("no/such/folder/x.srl")), &error));
-    QVERIFY(error.isSet());
+    QVERIFY(!back->write(folder.filePath(QStringLiteral("no/such/folder/x.srl")), &error));
 
-    QFile huge(folder.filePath(QStringLiteral("huge.srl")));
-    QVERIFY(huge.open(QIODevice::WriteOnly));
-    huge.write(QByteArray(100 * 1024, ' '));
-    huge.close();
-    QVERIFY(!WordList::read(huge.fileName(), &error));
-    QVERIFY(error.message().contains(QLatin1String("too large")));
-
-    // The lists that come with the program are whole and hold real words.
+    // The lists that come with the program are whole, with twenty different words.
     QDir data(BuiltDataPath());
     const QStringList lists = data.entryList({QStringLiteral("*.srl")}, QDir::Files);
     QVERIFY(lists.size() >= 4);
     for (const QString &name : lists) {
         back = WordList::read(data.filePath(name), &error);
         QVERIFY2(back, qPrintable(error.message()));
-        QCOMPARE(back->count(), WordList::MaxWords);
-        QCOMPARE(QSet<QString>(back->words.begin(), back->words.end()).size(), back->words.size());
+        QCOMPARE(QSet<QString>(back->words.begin(), back->words.end()).size(), 20);
     }
 }
 
-void tst_spacerace_rules::nameFromPath_data()
+void tst_spacerace_rules::namesAndKeys()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("bare") << "week1.srl"
-                          << "week1";
-    QTest::newRow("folder") << "/home/pupil/Lumbridle/week1.srl"
-                            << "week1";
-    QTest::newRow("backslashes") << "C:\\Lists\\Term 2\\week1.srl"
-                                 << "week1";
-    QTest::newRow("mixed") << "/mnt/share\\class\\week1.SRL"
-                           << "week1";
-    QTest::newRow("dots inside") << "/tmp/grade.3.srl"
-                                 << "grade.3";
-    QTest::newRow("nothing left") << "/tmp/.srl"
-                                  << ".srl";
-    QTest::newRow("empty") << ""
-                           << "NONE";
-}
+    QCOMPARE(WordList::nameFromPath("week1.srl"), QStringLiteral("week1"));
+    QCOMPARE(WordList::nameFromPath("/home/pupil/Lumbridle/week1.srl"), QStringLiteral("week1"));
+    QCOMPARE(WordList::nameFromPath("C:\\Lists\\Term 2\\week1.SRL"), QStringLiteral("week1"));
+    QCOMPARE(WordList::nameFromPath(""), QStringLiteral("NONE"));
+    QCOMPARE(WordList::withExtension("a/b"), QStringLiteral("a/b.srl"));
+    QCOMPARE(WordList::withExtension("a/b.SRL"), QStringLiteral("a/b.SRL"));
 
-void tst_spacerace_rules::nameFromPath()
-{
-    QFETCH(QString, path);
-    QFETCH(QString, name);
-    QCOMPARE(WordList::nameFromPath(path), name);
-    QCOMPARE(WordList::withExtension(QStringLiteral("a/b")), QStringLiteral("a/b.srl"));
-    QCOMPARE(WordList::withExtension(QStringLiteral("a/b.SRL")), QStringLiteral("a/b.SRL"));
-}
-
-void tst_spacerace_rules::boxKeys()
-{
     const QList<QPair<QChar, QChar>> keys = {
-        {u'a', u'A'},           {u'z', u'Z'},    {u'Q', u'Q'},    {u'-', u'-'},
-        {u'\'', u'\''},         {u'1', QChar()}, {u' ', QChar()}, {u'\r', QChar()},
-        {QChar(0xE9), QChar()}, {u'"', QChar()}, {u'{', QChar()}, {u'@', QChar()}};
+        {u'a', u'A'},    {u'z', u'Z'},    {u'Q', u'Q'},    {u'-', u'-'},          {u'\'', u'\''},
+        {u'1', QChar()}, {u' ', QChar()}, {u'"', QChar()}, {QChar(0xE9), QChar()}};
     for (const auto &[typed, kept] : keys)
         QCOMPARE(WordList::boxKey(typed), kept);
-    QVERIFY(WordList::isWord(QStringLiteral("DON'T")));
-    QVERIFY(!WordList::isWord(QStringLiteral("cat")));
-    QVERIFY(!WordList::isWord(QString()));
 }
 
-void tst_spacerace_rules::advanceRoundsHalfToEven_data()
+void tst_spacerace_rules::advance_data()
 {
     QTest::addColumn<int>("position");
     QTest::addColumn<int>("wrong");
@@ -224,13 +164,11 @@ void tst_spacerace_rules::advanceRoundsHalfToEven_data()
     QTest::newRow("clean") << 0 << 0 << 10;
     QTest::newRow("one wrong") << 0 << 1 << 7;
     QTest::newRow("two wrong") << 0 << 2 << 3;
-    QTest::newRow("one wrong after 7") << 7 << 1 << 14;   // 13.67
-    QTest::newRow("two wrong after 3") << 3 << 2 << 6;    // 6.33
-    QTest::newRow("two wrong after 17") << 17 << 2 << 20; // 20.33
-    QTest::newRow("clean near the moon") << 74 << 0 << 84;
+    QTest::newRow("one wrong after 7") << 7 << 1 << 14; // 13.67
+    QTest::newRow("two wrong after 3") << 3 << 2 << 6;  // 6.33
 }
 
-void tst_spacerace_rules::advanceRoundsHalfToEven()
+void tst_spacerace_rules::advance()
 {
     QFETCH(int, position);
     QFETCH(int, wrong);
@@ -243,14 +181,10 @@ void tst_spacerace_rules::wrongLettersCostSteps()
     TestEnvironment env;
     RocketRace race;
     race.start({QStringLiteral("PLANET")}, Game(1, 1));
-    QCOMPARE(race.phase(), RocketRace::Phase::Waiting);
     QCOMPARE(race.key(u'P'), RocketRace::KeyResult::Ignored); // not flashed yet
     race.flash();
-    QCOMPARE(race.hidden(), QStringLiteral("******"));
     QCOMPARE(race.key(u'p'), RocketRace::KeyResult::Right);
     QCOMPARE(race.key(u'7'), RocketRace::KeyResult::Ignored);
-    QCOMPARE(race.key(u' '), RocketRace::KeyResult::Ignored);
-    QCOMPARE(race.wrongLetters(), qint16(0));
     QCOMPARE(race.key(u'\b'), RocketRace::KeyResult::Wrong); // Backspace is a wrong letter
     QCOMPARE(race.hidden(), QStringLiteral("P*****"));       // Flasher gives nothing away
     QCOMPARE(SpellRest(race), RocketRace::KeyResult::WordDone);
@@ -259,19 +193,11 @@ void tst_spacerace_rules::wrongLettersCostSteps()
 
     race.nextTurn();
     race.flash();
-    race.key(u'X');
-    race.key(u'Y');
-    QCOMPARE(SpellRest(race), RocketRace::KeyResult::WordDone);
-    QCOMPARE(race.position(1), qint16(10)); // 7 + 3.33
-
-    race.nextTurn();
-    race.flash();
     QCOMPARE(race.key(u'X'), RocketRace::KeyResult::Wrong);
     QCOMPARE(race.key(u'\b'), RocketRace::KeyResult::Wrong);
     QCOMPARE(race.key(u'Z'), RocketRace::KeyResult::TurnLost);
-    QCOMPARE(race.phase(), RocketRace::Phase::TurnLost);
     QCOMPARE(race.key(u'P'), RocketRace::KeyResult::Ignored);
-    QCOMPARE(race.position(1), qint16(10));
+    QCOMPARE(race.position(1), qint16(7));
 }
 
 void tst_spacerace_rules::scramblerGivesAwayTheFirstTwoLetters()
@@ -279,7 +205,6 @@ void tst_spacerace_rules::scramblerGivesAwayTheFirstTwoLetters()
     TestEnvironment env;
     RocketRace race;
     race.start({QStringLiteral("PLANET")}, Game(1, 2));
-    QCOMPARE(race.phase(), RocketRace::Phase::Typing);
     QCOMPARE(race.key(u'X'), RocketRace::KeyResult::Wrong);
     QCOMPARE(race.typed(), QStringLiteral("P"));
     QCOMPARE(race.key(u'X'), RocketRace::KeyResult::Wrong);
@@ -287,89 +212,63 @@ void tst_spacerace_rules::scramblerGivesAwayTheFirstTwoLetters()
     QCOMPARE(SpellRest(race), RocketRace::KeyResult::WordDone);
     QCOMPARE(race.position(1), qint16(3));
 
-    // Past the second letter nothing more is given away.
-    race.nextTurn();
+    race.nextTurn(); // past the second letter nothing more is given away
     race.key(u'P');
     race.key(u'L');
-    QCOMPARE(race.key(u'X'), RocketRace::KeyResult::Wrong);
+    race.key(u'X');
     QCOMPARE(race.typed(), QStringLiteral("PL"));
 
     // The last letter is the pupil's to type, even in a word of two.
     race.start({QStringLiteral("AT")}, Game(1, 2));
-    QCOMPARE(race.key(u'X'), RocketRace::KeyResult::Wrong);
-    QCOMPARE(race.typed(), QStringLiteral("A"));
-    QCOMPARE(race.key(u'X'), RocketRace::KeyResult::Wrong);
+    race.key(u'X');
+    race.key(u'X');
     QCOMPARE(race.typed(), QStringLiteral("A"));
     QCOMPARE(race.key(u't'), RocketRace::KeyResult::WordDone);
-    QCOMPARE(race.position(1), qint16(3));
 }
 
 void tst_spacerace_rules::scrambleNeverShowsTheWord()
 {
-    QStringList words = Words(20);
-    words << QStringLiteral("AB") << QStringLiteral("BOOK") << QStringLiteral("NOON")
-          << QStringLiteral("ABCDEFGHIJKLMNO");
+    QStringList words = Words(20) << QStringLiteral("AB") << QStringLiteral("NOON");
     for (qint64 seed = 1; seed <= 300; ++seed) {
         Generator random(seed);
         for (const QString &word : std::as_const(words)) {
-            const QString shown = RocketRace::scramble(word, random);
+            QString shown = RocketRace::scramble(word, random);
             QVERIFY2(shown != word, qPrintable(word));
-            QString a = shown, b = word;
-            std::sort(a.begin(), a.end());
-            std::sort(b.begin(), b.end());
-            QCOMPARE(a, b);
+            QString sorted = word;
+            std::sort(shown.begin(), shown.end());
+            std::sort(sorted.begin(), sorted.end());
+            QCOMPARE(shown, sorted);
         }
     }
     // Words that cannot be shown any other way are shown as they are, without a hang.
     Generator random(7);
     QCOMPARE(RocketRace::scramble(QStringLiteral("A"), random), QStringLiteral("A"));
     QCOMPARE(RocketRace::scramble(QStringLiteral("ZZZ"), random), QStringLiteral("ZZZ"));
-    QCOMPARE(RocketRace::scramble(QString(), random), QString());
     // A generator that keeps drawing the word's own order still ends with a changed word.
     ScriptedRandom stuck;
     stuck.values = QList<double>(1000, 0.999);
     QCOMPARE(RocketRace::scramble(QStringLiteral("CAT"), stuck), QStringLiteral("ATC"));
 }
 
-void tst_spacerace_rules::flasherShowsTheWordTwiceAtMost()
-{
-    TestEnvironment env;
-    RocketRace race;
-    race.start({QStringLiteral("CAT")}, Game(1, 1));
-    QVERIFY(race.canFlash());
-    QVERIFY(race.flash());
-    race.key(u'C');
-    QVERIFY(race.flash());
-    QVERIFY(!race.canFlash());
-    QVERIFY(!race.flash());
-    QCOMPARE(race.flashes(), qint16(2));
-    QCOMPARE(race.hidden(), QStringLiteral("C**"));
-    // The next word may be flashed twice again; Scrambler never flashes.
-    SpellRest(race);
-    race.nextTurn();
-    QCOMPARE(race.flashes(), qint16(0));
-    QVERIFY(race.canFlash());
-    race.start({QStringLiteral("CAT")}, Game(1, 2));
-    QVERIFY(!race.flash());
-}
-
-void tst_spacerace_rules::marksAreFilledIn()
+void tst_spacerace_rules::flashesAndMarks()
 {
     TestEnvironment env;
     RocketRace race;
     race.start({QStringLiteral("DON'T"), QStringLiteral("X-RAY")}, Game(1, 1));
-    for (int word = 0; word < 2; ++word) {
-        race.flash();
-        const QString letters = QString(race.word()).remove(u'\'').remove(u'-');
-        for (const QChar c : letters)
-            race.key(c);
-        QCOMPARE(race.phase(), RocketRace::Phase::WordDone);
-        race.nextTurn();
-    }
-    QCOMPARE(race.position(1), qint16(20));
-    // A one-letter word stands as it is in Scrambler.
+    QVERIFY(race.flash());
+    QVERIFY(race.flash());
+    QVERIFY(!race.flash()); // twice at most
+    // Marks no key can type are filled in as the pupil reaches them.
+    const QString letters = QString(race.word()).remove(u'\'').remove(u'-');
+    for (const QChar c : letters)
+        race.key(c);
+    QCOMPARE(race.phase(), RocketRace::Phase::WordDone);
+    race.nextTurn();
+    QVERIFY(race.flash()); // the next word may be flashed again
+    // A one-letter word stands as it is in Scrambler, which never flashes.
     race.start({QStringLiteral("A")}, Game(1, 2));
     QCOMPARE(race.scrambled(), QStringLiteral("A"));
+    QVERIFY(!race.flash());
     QCOMPARE(race.key(u'a'), RocketRace::KeyResult::WordDone);
 }
 
@@ -384,7 +283,6 @@ void tst_spacerace_rules::ordersAreReshuffledAfterEveryWord()
     RocketRace race;
     const QStringList words = Words(3);
     race.start(words, Game(2, 1));
-    QCOMPARE(race.order(1), QList<qint16>({1, 2, 3}));
     QStringList met[2];
     for (int turn = 0; turn < 6; ++turn) {
         met[race.currentPlayer() - 1].append(race.word());
@@ -403,28 +301,28 @@ void tst_spacerace_rules::raceEndsAfterTheRoundWithSharedWins()
 {
     TestEnvironment env;
     RocketRace race;
-    // Eight clean words reach the moon; both players do so in the same round.
+    // Eight clean words reach the moon; two players do so in the same round.
     race.start(Words(5), Game(3, 2));
     int turns = 0;
     RocketRace::TurnResult result = RocketRace::TurnResult::NextTurn;
     while (result == RocketRace::TurnResult::NextTurn && turns < 100) {
-        if (race.currentPlayer() == 3) {
+        if (race.currentPlayer() == 3)
             for (int i = 0; i < 3; ++i)
                 race.key(u'\b');
-        } else {
+        else
             SpellRest(race);
-        }
         result = race.nextTurn();
         ++turns;
     }
     QCOMPARE(turns, 24);
     QCOMPARE(race.position(1), qint16(80));
-    QCOMPARE(race.position(3), qint16(0));
     QCOMPARE(race.finishers(), QList<qint16>({1, 1, 0, 0}));
     QVERIFY(!race.isRunning());
 
-    // A lone finisher still lets the others finish the round, then wins alone.
-    race.start(Words(2), Game(2, 1));
+    // A lone finisher lets the others finish the round, then wins alone.
+    Settings::SpaceRace odd = Game(2, 1);
+    odd.names[1] = QStringLiteral("  ");
+    race.start(Words(2), odd);
     for (int round = 0; round < 8; ++round) {
         SpellRest(race);
         QCOMPARE(race.nextTurn(), RocketRace::TurnResult::NextTurn);
@@ -436,27 +334,17 @@ void tst_spacerace_rules::raceEndsAfterTheRoundWithSharedWins()
     QCOMPARE(result, RocketRace::TurnResult::Over);
     QCOMPARE(race.position(2), qint16(56));
     QCOMPARE(race.finishers(), QList<qint16>({1, 0, 0, 0}));
-    QCOMPARE(race.nextTurn(), RocketRace::TurnResult::Over);
-}
+    QCOMPARE(race.name(2), QStringLiteral("Player 2")); // a blank name gets its number
 
-void tst_spacerace_rules::damagedSettingsArePlayable()
-{
-    TestEnvironment env;
-    Settings::SpaceRace s;
-    s.players = 9;
-    s.gameType = -3;
-    s.names = {QStringLiteral("  "), QStringLiteral("Ben"), QString(), QStringLiteral("Dee")};
-    RocketRace race;
-    race.start({QStringLiteral("cat"), QStringLiteral("d0g"), QString()}, s);
+    // Settings damaged in the file still give a race it can play.
+    odd.players = 9;
+    odd.gameType = -3;
+    race.start({QStringLiteral("cat"), QStringLiteral("d0g")}, odd);
     QCOMPARE(race.players(), qint16(4));
     QCOMPARE(race.game(), RocketRace::Game::Scrambler);
-    QCOMPARE(race.names(), QStringList({"Player 1", "Ben", "Player 3", "Dee"}));
-    QCOMPARE(race.word(), QStringLiteral("CAT")); // only the one real word is raced
-    s.players = 0;
-    race.start({}, s);
+    QCOMPARE(race.word(), QStringLiteral("CAT"));
+    race.start({}, odd);
     QVERIFY(!race.isRunning());
-    race.start({QStringLiteral("CAT")}, s);
-    QCOMPARE(race.players(), qint16(1));
 }
 
 QTEST_GUILESS_MAIN(tst_spacerace_rules)
