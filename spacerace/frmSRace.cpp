@@ -410,8 +410,6 @@ void frmSRace::onExit()
 
 void frmSRace::closeEvent(QCloseEvent *event)
 {
-    if (m_race.isRunning())
-        stopRace();
     const WordList &list = SharedList();
     if (list.hasUnsavedWords()) {
         const QString question = tr("Current List: %1\nList has not been saved.\nDo you still "
@@ -423,6 +421,9 @@ void frmSRace::closeEvent(QCloseEvent *event)
             return;
         }
     }
+    // Closed by its frame in the middle of a game: the game ends with the window.
+    if (m_race.isRunning())
+        stopRace();
     ActivityWindow::closeEvent(event);
 }
 
