@@ -4,6 +4,7 @@
 #include "shell/core/Shuffle.h"
 #include "WordList.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -16,8 +17,10 @@ bool IsLetter(QChar c)
 void RocketRace::start(const QStringList &words, const Settings::SpaceRace &settings)
 {
     m_words.clear();
+    // A word needs a letter to type: one of dashes and apostrophes alone could never be spelt.
     for (const QString &word : words)
-        if (WordList::isWord(word.toUpper()))
+        if (WordList::isWord(word.toUpper()) &&
+            std::any_of(word.begin(), word.end(), [](QChar c) { return IsLetter(c.toUpper()); }))
             m_words.append(word.toUpper());
     if (m_words.isEmpty()) {
         qCWarning(lcSpaceRace) << "a race needs at least one word";

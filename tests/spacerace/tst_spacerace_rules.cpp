@@ -339,10 +339,11 @@ void tst_spacerace_rules::raceEndsAfterTheRoundWithSharedWins()
     // Settings damaged in the file still give a race it can play.
     odd.players = 9;
     odd.gameType = -3;
-    race.start({QStringLiteral("cat"), QStringLiteral("d0g")}, odd);
+    race.start({QStringLiteral("cat"), QStringLiteral("d0g"), QStringLiteral("-'")}, odd);
     QCOMPARE(race.players(), qint16(4));
     QCOMPARE(race.game(), RocketRace::Game::Scrambler);
     QCOMPARE(race.word(), QStringLiteral("CAT"));
+    QCOMPARE(race.order(1).size(), 1);
     race.start({}, odd);
     QVERIFY(!race.isRunning());
 }
