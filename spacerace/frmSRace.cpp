@@ -148,12 +148,9 @@ frmSRace::frmSRace(QWidget *parent) : ActivityWindow(QStringLiteral("spacerace")
     for (QWidget *child : children)
         child->installEventFilter(this);
 
-    setWindowTitle(optSRace::caption(SharedList().name));
     cmdOK->setEnabled(false);
     setMessage(tr("Press\nNew Game\nto start!"));
-    const Settings::SpaceRace &settings = TheSettings().spaceRace;
-    showLineUp(qBound(1, int(settings.players), int(RocketRace::MaxPlayers)),
-               QStringList(settings.names.begin(), settings.names.end()));
+    showChoices();
     ResizeWithinScreen(this, QSize(1024, 720));
     sizeWord();
     cmdNew->setFocus();
@@ -208,6 +205,24 @@ void frmSRace::setMessage(const QString &text)
         QStringLiteral("QLabel { background: #FFF9C4; color: #1A237E; border: 4px solid %1;"
                        " border-radius: 14px; padding: 6px; }")
             .arg(border.name()));
+}
+
+void frmSRace::showChoices()
+{
+    // Before a game the window shows what the next one will be: the list, the game, the players.
+    const WordList &list = SharedList();
+    setWindowTitle(optSRace::caption(list.name));
+    const Settings::SpaceRace &settings = TheSettings().spaceRace;
+    lblTitle->setText(settings.gameType == 1 ? tr("Flasher") : tr("Scrambler"));
+    cmdOK->setText(settings.gameType == 1 ? tr("&Flash Word") : tr("Next &Player"));
+    lblFlash->setVisible(settings.gameType == 1);
+    lblanswer->setVisible(settings.gameType != 1);
+    lblWord->setText(tr("List: %1").arg(list.name));
+    const QString words = list.count() == 1 ? tr("1 word") : tr("%1 words").arg(list.count());
+    lblFlash->setText(list.isEmpty() ? QString() : words);
+    lblanswer->setText(lblFlash->text());
+    showLineUp(qBound(1, int(settings.players), int(RocketRace::MaxPlayers)),
+               QStringList(settings.names.begin(), settings.names.end()));
 }
 
 void frmSRace::showLineUp(int players, const QStringList &names)
@@ -433,10 +448,7 @@ void frmSRace::onOptions()
         return;
     optSRace options(this);
     RunModal(options);
-    setWindowTitle(optSRace::caption(SharedList().name));
-    const Settings::SpaceRace &settings = TheSettings().spaceRace;
-    showLineUp(qBound(1, int(settings.players), int(RocketRace::MaxPlayers)),
-               QStringList(settings.names.begin(), settings.names.end()));
+    showChoices();
     cmdOptions->setFocus();
 }
 

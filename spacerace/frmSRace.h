@@ -56,6 +56,7 @@ private:
     void nextTurn();
     void finishRace();
     void stopRace();
+    void showChoices();
     void showLineUp(int players, const QStringList &names);
     void setMessage(const QString &text);
 

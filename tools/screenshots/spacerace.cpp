@@ -105,7 +105,11 @@ QList<Scene> spaceraceScenes()
              return options;
          },
          QSize(1000, 580)},
-        {QStringLiteral("spacerace-open"), [] { return new frmSRace; }},
+        {QStringLiteral("spacerace-open"),
+         [] {
+             ThreePilots(2);
+             return new frmSRace;
+         }},
         {QStringLiteral("spacerace-flasher"), [] { return RaceUnderWay(1); }},
         {QStringLiteral("spacerace-scrambler"), [] { return RaceUnderWay(2); }},
         {QStringLiteral("spacerace-results"), []() -> QWidget * { return Results(); },
