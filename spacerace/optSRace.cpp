@@ -41,7 +41,7 @@ QPushButton *ListButton(const QString &caption, const QString &name, QWidget *pa
 {
     auto *button = Named(new QPushButton(caption, parent), name);
     button->setFont(BaseFont(1, true));
-    button->setAutoDefault(false);
+    button->setAutoDefault(true);
     StyleBrightButton(button, QColor(0x6A, 0x1B, 0x9A), 10);
     return button;
 }
@@ -152,7 +152,7 @@ optSRace::optSRace(QWidget *parent) : QDialog(parent)
     cmdOK = Named(new QPushButton(tr("OK"), this), QStringLiteral("cmdOK"));
     cmdOK->setFont(BaseFont(1.2, true));
     cmdOK->setMinimumWidth(100);
-    cmdOK->setAutoDefault(false);
+    cmdOK->setDefault(true);
     StyleBrightButton(cmdOK, QColor(0x2E, 0x7D, 0x32));
 
     auto *lower = new QHBoxLayout;
