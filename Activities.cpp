@@ -5,6 +5,7 @@
 #include "balloon/frmBall.h"
 #include "mathrace/frmMRace.h"
 #include "pizza/frmPizza.h"
+#include "spacerace/frmSRace.h"
 #include "stopthief/frmThief.h"
 
 namespace {
@@ -19,7 +20,7 @@ QList<ActivityEntry> Activities()
     return {
         {0, QStringLiteral("World Geography"), {}, QStringLiteral("worldgeography")},
         {1, QStringLiteral("Balloon Man"), opens<frmBall>(), QStringLiteral("balloon")},
-        {2, QStringLiteral("Space Race"), {}, QStringLiteral("spacerace")},
+        {2, QStringLiteral("Space Race"), opens<frmSRace>(), QStringLiteral("spacerace")},
         {3, QStringLiteral("Higher Math"), {}, QStringLiteral("mathtutor")},
         {4, QStringLiteral("\tMath Race"), opens<frmMRace>(), QStringLiteral("mathrace")},
         {5, QStringLiteral("Lemonade Stand"), {}, QStringLiteral("lemonade")},

@@ -4,6 +4,7 @@
 #include "shell/core/Settings.h"
 #include "shell/core/WriteFormat.h"
 #include "balloon/BalloonWords.h"
+#include "spacerace/WordList.h"
 #include "stopthief/ThiefData.h"
 
 #include <cstdio>
@@ -108,6 +109,18 @@ void balloonWords(const QByteArray &input)
             if (!BalloonWords::isPlayable(word.word))
                 FuzzFail("an unplayable balloon word was read", input);
 }
+// A word list that reads writes back to the same bytes' meaning: the same words, in order.
+void spellingList(const QByteArray &input)
+{
+    FileError error;
+    const auto list = WordList::parse(input, QStringLiteral("fuzz.srl"), &error);
+    expectHonestError(list.has_value(), error, input);
+    if (!list)
+        return;
+    const auto again = WordList::parse(list->format(), QStringLiteral("fuzz.srl"));
+    if (!again || again->format() != list->format())
+        FuzzFail("a spelling list written back read differently", input);
+}
 } // namespace
 
 const QList<FuzzTarget> &FuzzTargets()
@@ -117,6 +130,7 @@ const QList<FuzzTarget> &FuzzTargets()
         {"settings", {"lumbridle52.ini"}, settingsFile},
         {"thief", {"thief.dat"}, thiefData},
         {"balloon", {"balloon.dat"}, balloonWords},
+        {"spelling", {"grade1.srl", "grade3.srl", "grade5.srl", "tricky.srl"}, spellingList},
     };
     return targets;
 }

@@ -24,8 +24,14 @@ int main(int argc, char *argv[])
     const QString filter = argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString();
     QDir().mkpath(out);
 
-    const QList<Scene> scenes = shellScenes() + mathraceScenes() + stopthiefScenes() +
-                                balloonScenes() + pizzaScenes();
+    // One line per activity.
+    QList<Scene> scenes;
+    scenes += shellScenes();
+    scenes += mathraceScenes();
+    scenes += stopthiefScenes();
+    scenes += balloonScenes();
+    scenes += pizzaScenes();
+    scenes += spaceraceScenes();
     int written = 0;
     for (const Scene &scene : std::as_const(scenes)) {
         if (!filter.isEmpty() && !scene.name.contains(filter))
