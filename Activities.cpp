@@ -2,6 +2,7 @@
 // The one list of the activities the menu opens.
 #include "Activities.h"
 
+#include "geography/frmGeo.h"
 #include "mathrace/frmMRace.h"
 #include "stopthief/frmThief.h"
 
@@ -25,7 +26,7 @@ QList<ActivityEntry> Activities()
         {7, QStringLiteral("Stop Thief!"), opens<frmThief>(), QStringLiteral("stopthief")},
         {8, QStringLiteral("Graphs && Charts"), {}, QStringLiteral("graphs")},
         {9, QStringLiteral("Calendar"), {}, QStringLiteral("calendar")},
-        {10, QStringLiteral("US Geography"), {}, QStringLiteral("usgeography")},
+        {10, QStringLiteral("US Geography"), opens<frmGeo>(), QStringLiteral("usgeography")},
         {11, QStringLiteral("US Presidents"), {}, QStringLiteral("presidents")},
         {12, QStringLiteral("Keyboarding"), {}, QStringLiteral("typing")},
         // The card games open the one last played: 1 War, 2 Concentration, 3 Blackjack.
