@@ -117,7 +117,8 @@ void frmGeo::buildControls()
     picArea->setStyleSheet(QStringLiteral("#picArea { border: 3px solid transparent; }"));
     picMap = Named(new PictureBox(picArea), QStringLiteral("picMap"));
     picMap->setAccessibleName(tr("Map of the United States"));
-    picMap->setFocusPolicy(Qt::StrongFocus);
+    // The map takes the keyboard only where its arrow keys mean something (finding a state).
+    picMap->setFocusPolicy(Qt::NoFocus);
     picMap->setMinimumSize(160, 100);
     picMap->setCursor(Qt::PointingHandCursor);
     picMap->installEventFilter(this);
@@ -544,6 +545,8 @@ void frmGeo::startMode(int mode)
         QT_TR_NOOP("US Geography-Review States"), QT_TR_NOOP("US Geography-State Capitals"),
         QT_TR_NOOP("US Geography-Name the State"), QT_TR_NOOP("US Geography-Find the State"),
         QT_TR_NOOP("US Geography-State Flags")};
+    // A mode button pressed during another mode starts afresh from the idle window.
+    showIdle();
     m_quiz.start(mode, planFor(mode));
     fraChoice->setTitle(tr(captions[mode - 1]));
     setRunningCaption(cmdExit, true);
@@ -594,6 +597,8 @@ void frmGeo::showIdle()
     fraWhich1->hide();
     fraWhich2->hide();
     fraWhich3->hide();
+    picMap->setFocusPolicy(Qt::NoFocus);
+    cmdChoice[0]->setFocus();
 }
 
 void frmGeo::clearItems()
@@ -685,6 +690,7 @@ void frmGeo::showReview()
     lblScore->setText(tr("State %1 of %2").arg(m_quiz.currentRecord()).arg(m_states.count()));
     fraNext->show();
     Label1->show();
+    picMap->setFocusPolicy(Qt::NoFocus);
 }
 
 void frmGeo::setAnswerWidgets()
@@ -713,6 +719,7 @@ void frmGeo::setAnswerWidgets()
             flag->load(DataFile(UsStates::FlagFile(m_states, m_quiz.choices().value(i))));
     }
     Label1->setVisible(onMap);
+    picMap->setFocusPolicy(onMap ? Qt::StrongFocus : Qt::NoFocus);
     if (onMap)
         picMap->setFocus();
     else if (flagPick)

@@ -112,8 +112,13 @@ void tst_frmgeo::reviewByButtonsKeysAndMap()
     SetRandomSource(&random);
     frmGeo window;
     showActive(window);
+    // Straight from a quiz to the review: the quiz's answer box goes.
+    choose(window, 0, Capitals, 0);
+    QVERIFY(window.txtAnswer->isVisible());
     random.values = {49.5 / 50}; // the 50th state, Wyoming
     QTest::mouseClick(window.cmdChoice[0], Qt::LeftButton);
+    QVERIFY(!window.txtAnswer->isVisible());
+    QVERIFY(!window.cmdSee->isVisible());
     QCOMPARE(window.fraChoice->title(), QStringLiteral("US Geography-Review States"));
     QCOMPARE(window.cmdExit->text(), QStringLiteral("&Stop"));
     QCOMPARE(window.lblName->text(), QStringLiteral("Wyoming"));
