@@ -333,8 +333,6 @@ QGroupBox *frmGeo::buildOptions(const QString &caption, const QString &name,
         auto *option = Named(new QRadioButton(captions[i], frame),
                              ArrayName(optionName.toLatin1().constData(), i));
         option->setAccessibleName(caption + QStringLiteral(": ") + captions[i]);
-        option->setStyleSheet(QStringLiteral("QRadioButton::indicator { width: 18px;"
-                                             " height: 18px; }"));
         option->setChecked(i == chosen);
         m_typeScale.append({option, 0.95, false});
         connect(option, &QRadioButton::toggled, this, [this, setting, i](bool on) {
@@ -389,6 +387,12 @@ void frmGeo::fitType()
     const auto buttons = findChildren<QPushButton *>();
     for (QPushButton *b : buttons)
         b->setMinimumHeight(buttonHeight);
+    const int dot = qRound(18 * factor);
+    const auto options = findChildren<QRadioButton *>();
+    for (QRadioButton *option : options)
+        option->setStyleSheet(QStringLiteral("QRadioButton::indicator { width: %1px;"
+                                             " height: %1px; }")
+                                  .arg(dot));
     // The column is as wide as its widest button, never cut by a scroll bar.
     m_sidePanel->setMinimumWidth(m_sidePanel->widget()->minimumSizeHint().width() +
                                  m_sidePanel->verticalScrollBar()->sizeHint().width());
@@ -631,7 +635,9 @@ void frmGeo::showMapOf(int record)
     } else {
         picMap->load(DataFile(UsStates::MapFile(m_states, record)));
     }
-    picMap->setAccessibleDescription(m_states.text(record, UsStates::Name));
+    // Screen readers hear which state is lit, except while that is the question.
+    const bool asking = m_quiz.isRunning() && m_quiz.mode() != Review && !m_quiz.isAnswered();
+    picMap->setAccessibleDescription(asking ? QString() : m_states.text(record, UsStates::Name));
 }
 
 void frmGeo::showItem(int item)
@@ -686,7 +692,7 @@ void frmGeo::showReview()
     resetInsets();
     lblName->setText(m_states.text(m_quiz.currentRecord(), UsStates::Name));
     showAllItems();
-    lblPrompt->setText(tr("Use the arrow buttons to visit the states, or click on the map."));
+    lblPrompt->clear(); // Label1 says how to move around
     lblScore->setText(tr("State %1 of %2").arg(m_quiz.currentRecord()).arg(m_states.count()));
     fraNext->show();
     Label1->show();
