@@ -49,7 +49,7 @@ QString choiceStyle(const char *background, const char *border)
         .arg(QLatin1String(background), QLatin1String(border));
 }
 
-// A texts from the data file shown on a button: an ampersand there is a letter, not a mnemonic.
+// Text from the data file shown on a button: an ampersand there is a letter, not a mnemonic.
 QString asButtonText(const QString &text)
 {
     QString escaped = text;
@@ -102,13 +102,12 @@ void frmGeo::buildControls()
         m_typeScale.append({text, scale, bold});
         return text;
     };
-    auto button = [this](const QString &caption, const QString &name, const char *colour,
-                         double scale = 1.0) {
+    auto button = [this](const QString &caption, const QString &name, const char *colour) {
         auto *b = Named(new QPushButton(caption, this), name);
         b->setAutoDefault(true);
         b->setAccessibleName(QString(caption).remove(u'&'));
         StyleBrightButton(b, QColor(QLatin1String(colour)));
-        m_typeScale.append({b, scale, false});
+        m_typeScale.append({b, 1.0, false});
         return b;
     };
 
