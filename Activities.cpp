@@ -3,6 +3,7 @@
 #include "Activities.h"
 
 #include "balloon/frmBall.h"
+#include "geography/frmGeo.h"
 #include "mathrace/frmMRace.h"
 #include "pizza/frmPizza.h"
 #include "spacerace/frmSRace.h"
@@ -28,7 +29,7 @@ QList<ActivityEntry> Activities()
         {7, QStringLiteral("Stop Thief!"), opens<frmThief>(), QStringLiteral("stopthief")},
         {8, QStringLiteral("Graphs && Charts"), {}, QStringLiteral("graphs")},
         {9, QStringLiteral("Calendar"), {}, QStringLiteral("calendar")},
-        {10, QStringLiteral("US Geography"), {}, QStringLiteral("usgeography")},
+        {10, QStringLiteral("US Geography"), opens<frmGeo>(), QStringLiteral("usgeography")},
         {11, QStringLiteral("US Presidents"), {}, QStringLiteral("presidents")},
         {12, QStringLiteral("Keyboarding"), {}, QStringLiteral("typing")},
         // The card games open the one last played: 1 War, 2 Concentration, 3 Blackjack.

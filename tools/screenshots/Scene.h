@@ -23,3 +23,4 @@ QList<Scene> stopthiefScenes();
 QList<Scene> pizzaScenes();
 QList<Scene> balloonScenes();
 QList<Scene> spaceraceScenes();
+QList<Scene> geographyScenes();

@@ -32,6 +32,7 @@ int main(int argc, char *argv[])
     scenes += balloonScenes();
     scenes += pizzaScenes();
     scenes += spaceraceScenes();
+    scenes += geographyScenes();
     int written = 0;
     for (const Scene &scene : std::as_const(scenes)) {
         if (!filter.isEmpty() && !scene.name.contains(filter))

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Scenes of US Geography: the window as it opens, the review of a state, and a question of
+// each quiz, typed and picked, part-way through.
+#include "Scene.h"
+
+#include "geography/FlagButton.h"
+#include "geography/frmGeo.h"
+#include "shell/core/Random.h"
+#include "shell/core/Settings.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace {
+
+// The window in a mode, with the answer type and the mode's direction chosen first.
+frmGeo *InMode(int mode, int answerType, int direction = 0)
+{
+    auto &values = TheSettings().usGeography.values;
+    values[0] = qint16(answerType);
+    if (mode == Capitals)
+        values[1] = qint16(direction);
+    if (mode == FindIt)
+        values[2] = qint16(direction);
+    if (mode == Flags)
+        values[3] = qint16(direction);
+    Randomize(mode * 7 + direction);
+    auto *window = new frmGeo;
+    window->cmdChoice[mode - 1]->click();
+    return window;
+}
+
+} // namespace
+
+QList<Scene> geographyScenes()
+{
+    return {
+        {QStringLiteral("geography-start"), [] { return new frmGeo; }},
+        {QStringLiteral("geography-review"),
+         [] {
+             frmGeo *window = InMode(Review, 1);
+             window->cmdNext->click();
+             return window;
+         }},
+        {QStringLiteral("geography-capitals"),
+         [] {
+             frmGeo *window = InMode(Capitals, 0, 1);
+             window->txtAnswer->setText(QStringLiteral("Ohio"));
+             QMetaObject::invokeMethod(window->txtAnswer, "returnPressed");
+             window->txtAnswer->setText(QStringLiteral("Tex"));
+             return window;
+         }},
+        {QStringLiteral("geography-clues"),
+         [] {
+             frmGeo *window = InMode(NameIt, 1);
+             for (int i = 0; i < 4; ++i)
+                 window->cmdClue->click();
+             return window;
+         }},
+        {QStringLiteral("geography-find"),
+         [] {
+             frmGeo *window = InMode(FindIt, 1, 0);
+             const int right = window->quiz().correctChoice();
+             window->lblanswer[right % 4]->click();
+             return window;
+         }},
+        {QStringLiteral("geography-findmap"), [] { return InMode(FindIt, 0, 1); }},
+        {QStringLiteral("geography-flags"),
+         [] {
+             frmGeo *window = InMode(Flags, 1, 0);
+             window->imgFlagGame[window->quiz().correctChoice() - 1]->click();
+             return window;
+         }},
+        {QStringLiteral("geography-nameflag"), [] { return InMode(Flags, 1, 1); }},
+        // A 1366 x 768 screen at 200 %.
+        {QStringLiteral("geography-small"),
+         [] {
+             frmGeo *window = InMode(NameIt, 1);
+             window->cmdClue->click();
+             return window;
+         },
+         QSize(683, 340)},
+    };
+}
