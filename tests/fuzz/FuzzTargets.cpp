@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "FuzzTargets.h"
 
+#include "balloon/BalloonWords.h"
+#include "geography/UsStates.h"
 #include "shell/core/Settings.h"
 #include "shell/core/WriteFormat.h"
-#include "balloon/BalloonWords.h"
 #include "spacerace/WordList.h"
 #include "stopthief/ThiefData.h"
 
@@ -121,6 +122,19 @@ void spellingList(const QByteArray &input)
     if (!again || again->format() != list->format())
         FuzzFail("a spelling list written back read differently", input);
 }
+// A quiz table that reads holds every record its quiz asks about, with every answer given.
+void quizTable(const QByteArray &input, const QuizTable::Layout &layout)
+{
+    QuizTable table;
+    const bool ok = table.parse(input, layout);
+    expectHonestError(ok, table.error(), input);
+    if (ok && table.count() != layout.records)
+        FuzzFail("a quiz table read with the wrong number of records", input);
+    for (int record = 1; ok && record <= layout.records; ++record)
+        for (const int field : layout.requiredFields)
+            if (table.text(record, field).isEmpty())
+                FuzzFail("a quiz table read with a blank answer", input);
+}
 } // namespace
 
 const QList<FuzzTarget> &FuzzTargets()
@@ -130,6 +144,7 @@ const QList<FuzzTarget> &FuzzTargets()
         {"settings", {"lumbridle52.ini"}, settingsFile},
         {"thief", {"thief.dat"}, thiefData},
         {"balloon", {"balloon.dat"}, balloonWords},
+        {"usgeo", {"usgeo.dat"}, [](const QByteArray &in) { quizTable(in, UsStates::Layout()); }},
         {"spelling", {"grade1.srl", "grade3.srl", "grade5.srl", "tricky.srl"}, spellingList},
     };
     return targets;
