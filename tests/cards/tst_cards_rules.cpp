@@ -1,0 +1,570 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cards/Blackjack.h"
+#include "cards/Concentration.h"
+#include "cards/Deck.h"
+#include "cards/War.h"
+#include "support/TestDoubles.h"
+
+#include <QSet>
+#include <QTest>
+
+// The deck's numberings and the rules of War, Concentration and Blackjack, without windows.
+class tst_cards_rules : public QObject {
+    Q_OBJECT
+private slots:
+    void numberingsAtTheEdges_data();
+    void numberingsAtTheEdges();
+    void shuffleCardsDealsEveryPositionOnce();
+    void shuffleCardsCountsFreePositions();
+    void warRounds();
+    void warInsideAWarGivesBackOwnCards();
+    void warPlaysOnFromTheShuffledWonPile();
+    void warEnds_data();
+    void warEnds();
+    void concentrationMatching_data();
+    void concentrationMatching();
+    void concentrationIgnoresTakenAndOutside();
+    void concentrationPerfectGame();
+    void concentrationPlaceFromPoint_data();
+    void concentrationPlaceFromPoint();
+    void blackjackHands_data();
+    void blackjackHands();
+    void blackjackBestTotal_data();
+    void blackjackBestTotal();
+    void blackjackWinningsText();
+    void blackjackReshufflesPastSlot35();
+};
+
+namespace {
+
+// A deck whose first slots deal the given positions and whose other slots hold the rest.
+void Stack(BlackjackDeck &deck, const QList<int> &positions)
+{
+    QSet<int> used(positions.cbegin(), positions.cend());
+    int slot = 1;
+    for (int position : positions)
+        deck.place(slot++, position);
+    for (int position = 1; position <= Deck::Size; ++position)
+        if (!used.contains(position))
+            deck.place(slot++, position);
+    deck.next = 1;
+}
+
+// Every card not named, in order, to fill out a War pile.
+QList<qint16> Rest(const QList<qint16> &named)
+{
+    QList<qint16> rest;
+    for (qint16 card = 1; card <= Deck::Size; ++card)
+        if (!named.contains(card))
+            rest.append(card);
+    return rest;
+}
+
+} // namespace
+
+void tst_cards_rules::numberingsAtTheEdges_data()
+{
+    QTest::addColumn<int>("card");
+    QTest::addColumn<int>("suit");
+    QTest::addColumn<QString>("war");
+    QTest::addColumn<QString>("blackjack");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<QString>("concentration");
+    QTest::addColumn<int>("concentrationSuit");
+    QTest::newRow("1") << 1 << 0 << "2"
+                       << "A" << 1 << "A" << 0;
+    QTest::newRow("2") << 2 << 0 << "3"
+                       << "2" << 2 << "A" << 1;
+    QTest::newRow("9") << 9 << 0 << "10"
+                       << "9" << 9 << "5" << 0;
+    QTest::newRow("10") << 10 << 0 << "J"
+                        << "10" << 10 << "5" << 1;
+    QTest::newRow("12") << 12 << 0 << "K"
+                        << "Q" << 10 << "6" << 1;
+    QTest::newRow("13") << 13 << 0 << "A"
+                        << "K" << 10 << "7" << 0;
+    QTest::newRow("14") << 14 << 1 << "2"
+                        << "A" << 1 << "7" << 1;
+    QTest::newRow("26") << 26 << 1 << "A"
+                        << "K" << 10 << "K" << 1;
+    QTest::newRow("27") << 27 << 2 << "2"
+                        << "A" << 1 << "A" << 2;
+    QTest::newRow("28") << 28 << 2 << "3"
+                        << "2" << 2 << "A" << 3;
+    QTest::newRow("52") << 52 << 3 << "A"
+                        << "K" << 10 << "K" << 3;
+}
+
+void tst_cards_rules::numberingsAtTheEdges()
+{
+    QFETCH(int, card);
+    QFETCH(int, suit);
+    QFETCH(QString, war);
+    QFETCH(QString, blackjack);
+    QFETCH(int, value);
+    QFETCH(QString, concentration);
+    QFETCH(int, concentrationSuit);
+    QCOMPARE(Deck::SuitIndex(card), suit);
+    QCOMPARE(Deck::RankIndex(card), (card - 1) % 13);
+    QCOMPARE(Deck::WarText(Deck::RankIndex(card)), war);
+    QCOMPARE(Deck::BlackjackText(Deck::RankIndex(card)), blackjack);
+    QCOMPARE(Deck::BlackjackValue(Deck::RankIndex(card)), value);
+    BlackjackDeck deck;
+    deck.place(7, card);
+    QCOMPARE(deck.text[7], blackjack);
+    QCOMPARE(int(deck.value[7]), value);
+    QCOMPARE(int(deck.suit[7]), suit);
+    const Deck::ConcentrationCard pairCard = Deck::ConcentrationNumbering(card);
+    QCOMPARE(Deck::ConcentrationText(pairCard.value), concentration);
+    QCOMPARE(pairCard.suit, concentrationSuit);
+}
+
+void tst_cards_rules::shuffleCardsDealsEveryPositionOnce()
+{
+    for (qint64 seed = 1; seed <= 300; ++seed) {
+        Generator random(seed);
+        BlackjackDeck deck;
+        deck.next = 30;
+        Shuffle_Cards(deck, random);
+        QCOMPARE(int(deck.next), 1);
+        QSet<QString> seen;
+        for (int slot = 1; slot <= Deck::Size; ++slot)
+            seen.insert(
+                QStringLiteral("%1/%2").arg(deck.suit[size_t(slot)]).arg(deck.text[size_t(slot)]));
+        QCOMPARE(seen.size(), Deck::Size);
+    }
+}
+
+void tst_cards_rules::shuffleCardsCountsFreePositions()
+{
+    // Draws of 0 always take the first free position and draws near 1 the last, so the deck
+    // comes out in order and in reverse; a draw of 0.5 of 52 takes position 27.
+    ScriptedRandom low;
+    low.values = QList<double>(52, 0.0);
+    BlackjackDeck deck;
+    Shuffle_Cards(deck, low);
+    for (int slot = 1; slot <= Deck::Size; ++slot) {
+        QCOMPARE(deck.text[size_t(slot)], Deck::BlackjackText((slot - 1) % 13));
+        QCOMPARE(int(deck.suit[size_t(slot)]), (slot - 1) / 13);
+    }
+    ScriptedRandom high;
+    high.values = QList<double>(52, 0.9999);
+    high.values[0] = 0.5;
+    Shuffle_Cards(deck, high);
+    QCOMPARE(deck.text[1], QStringLiteral("A")); // position 27: ace of suit 2
+    QCOMPARE(int(deck.suit[1]), 2);
+    QCOMPARE(deck.text[2], QStringLiteral("K")); // then 52, 51, ... skipping 27
+    QCOMPARE(int(deck.suit[2]), 3);
+    QCOMPARE(deck.text[26], QStringLiteral("2")); // position 28, then 26 next to it
+    QCOMPARE(int(deck.suit[26]), 2);
+    QCOMPARE(deck.text[27], QStringLiteral("K"));
+    QCOMPARE(int(deck.suit[27]), 1);
+    QCOMPARE(deck.text[52], QStringLiteral("A"));
+    QCOMPARE(int(deck.suit[52]), 0);
+}
+
+void tst_cards_rules::warRounds()
+{
+    Generator random(5);
+    War war(&random);
+    // The pupil's ace (13) beats the computer's king (12).
+    QList<qint16> pupil{13};
+    QList<qint16> computer{12};
+    pupil += Rest({13, 12}).mid(0, 25);
+    computer += Rest({13, 12}).mid(25);
+    war.deal(pupil, computer);
+    QVERIFY(war.turnPair());
+    QCOMPARE(war.tableCard(1), 13);
+    QCOMPARE(war.tableCard(6), 12);
+    QCOMPARE(war.settle(), War::Result::PupilTakes);
+    QCOMPARE(war.count(War::Pupil), 27);
+    QCOMPARE(war.count(War::Computer), 25);
+    QCOMPARE(war.wonPile(War::Pupil), (QList<qint16>{13, 12}));
+    QCOMPARE(war.tableCard(1), 0);
+    QCOMPARE(war.current(), 1);
+
+    // Two 2s (1 and 14) start a war: three face-down pairs, then the pair in slot 5 decides,
+    // here the computer's 5 (17) against the pupil's 4 (3).
+    pupil = {1, 4, 5, 6, 3};
+    computer = {14, 30, 31, 32, 17};
+    pupil += Rest(pupil + computer).mid(0, 21);
+    computer += Rest(pupil + computer);
+    war.deal(pupil, computer);
+    QVERIFY(war.turnPair());
+    QCOMPARE(war.settle(), War::Result::War);
+    QCOMPARE(war.current(), 1);
+    QVERIFY(war.layWar());
+    QCOMPARE(war.current(), 5);
+    for (int slot = 2; slot <= 4; ++slot) {
+        QCOMPARE(war.tableCard(slot), int(pupil[slot - 1]));
+        QCOMPARE(war.tableCard(slot + 5), int(computer[slot - 1]));
+    }
+    QCOMPARE(war.tableCard(5), 0);
+    QVERIFY(war.turnPair());
+    QCOMPARE(war.tableCard(5), 3);
+    QCOMPARE(war.tableCard(10), 17);
+    QCOMPARE(war.settle(), War::Result::ComputerTakes);
+    QCOMPARE(war.count(War::Pupil), 21);
+    QCOMPARE(war.count(War::Computer), 31);
+    QCOMPARE(war.wonPile(War::Computer), (QList<qint16>{1, 4, 5, 6, 3, 14, 30, 31, 32, 17}));
+    QVERIFY(!war.isOver());
+}
+
+void tst_cards_rules::warInsideAWarGivesBackOwnCards()
+{
+    War war;
+    const QList<qint16> pupil{1, 2, 3, 4, 5, 40};
+    const QList<qint16> computer{14, 28, 29, 30, 18, 41};
+    war.deal(pupil + Rest(pupil + computer).mid(0, 20), computer + Rest(pupil + computer).mid(20));
+    QVERIFY(war.turnPair());
+    QCOMPARE(war.settle(), War::Result::War);
+    QVERIFY(war.layWar());
+    QVERIFY(war.turnPair());
+    // Two 6s (5 and 18) in slot 5: no room for another war.
+    QCOMPARE(war.settle(), War::Result::TakeBack);
+    QCOMPARE(war.wonPile(War::Pupil), pupil.mid(0, 5));
+    QCOMPARE(war.wonPile(War::Computer), computer.mid(0, 5));
+    QCOMPARE(war.count(War::Pupil), 26);
+    QCOMPARE(war.count(War::Computer), 26);
+    QCOMPARE(war.current(), 1);
+    QVERIFY(war.turnPair());
+    QCOMPARE(war.tableCard(1), 40);
+}
+
+void tst_cards_rules::warPlaysOnFromTheShuffledWonPile()
+{
+    Generator random(77);
+    War war(&random);
+    // The pupil holds only an ace; after winning with it the play pile is empty.
+    QList<qint16> computer = Rest({13});
+    war.deal({13}, computer);
+    QVERIFY(war.turnPair());
+    QCOMPARE(war.settle(), War::Result::PupilTakes);
+    QCOMPARE(war.playLeft(War::Pupil), 0);
+    QCOMPARE(war.wonCount(War::Pupil), 2);
+    QVERIFY(war.turnPair());
+    const QList<qint16> won{13, computer[0]};
+    QVERIFY(won.contains(qint16(war.tableCard(1))));
+    QCOMPARE(war.wonCount(War::Pupil), 0);
+    QCOMPARE(war.playLeft(War::Pupil), 1);
+    QCOMPARE(war.count(War::Pupil), 2);
+}
+
+void tst_cards_rules::warEnds_data()
+{
+    QTest::addColumn<QList<qint16>>("pupil");
+    QTest::addColumn<QList<qint16>>("computer");
+    QTest::addColumn<int>("restTo");
+    QTest::addColumn<int>("winner");
+    // The pupil's last card, a 2, loses to the computer's 3: the computer holds all 52.
+    QTest::newRow("computer takes the last card") << QList<qint16>{1} << QList<qint16>{2} << 2 << 2;
+    QTest::newRow("pupil takes the last card") << QList<qint16>{26} << QList<qint16>{1} << 1 << 1;
+    // A tie with two cards left: the pupil lays one card face down but not a second.
+    QTest::newRow("pupil runs out in a war") << QList<qint16>{1, 2} << QList<qint16>{14} << 2 << 2;
+    QTest::newRow("computer runs out in a war")
+        << QList<qint16>{1} << QList<qint16>{14, 15, 16} << 1 << 1;
+}
+
+void tst_cards_rules::warEnds()
+{
+    QFETCH(QList<qint16>, pupil);
+    QFETCH(QList<qint16>, computer);
+    QFETCH(int, restTo);
+    QFETCH(int, winner);
+    const QList<qint16> rest = Rest(pupil + computer);
+    (restTo == 1 ? pupil : computer) += rest;
+    War war;
+    war.deal(pupil, computer);
+    QVERIFY(war.turnPair());
+    const War::Result first = war.settle();
+    if (first == War::Result::War)
+        QVERIFY(!war.layWar());
+    QVERIFY(war.isOver());
+    QCOMPARE(int(war.winner()), winner);
+    QCOMPARE(war.count(War::Side(winner)), 52);
+    QCOMPARE(war.count(War::Side(3 - winner)), 0);
+    QVERIFY(!war.turnPair());
+}
+
+void tst_cards_rules::concentrationMatching_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("second");
+    QTest::addColumn<bool>("match");
+    // Shuffled numbers as Concentration reads them: 1 and 2 the aces of suits 0 and 1,
+    // 13 the 7 of suit 0, 27 the ace of suit 2.
+    QTest::newRow("value: two aces of different suits") << 0 << 1 << 2 << true;
+    QTest::newRow("value: aces of the other half") << 0 << 1 << 27 << true;
+    QTest::newRow("value: ace and seven of one suit") << 0 << 1 << 13 << false;
+    QTest::newRow("suit: ace and seven of one suit") << 1 << 1 << 13 << true;
+    QTest::newRow("suit: two aces of different suits") << 1 << 1 << 2 << false;
+    QTest::newRow("suit: suits 0 and 2 differ") << 1 << 1 << 27 << false;
+}
+
+void tst_cards_rules::concentrationMatching()
+{
+    QFETCH(int, type);
+    QFETCH(int, first);
+    QFETCH(int, second);
+    QFETCH(bool, match);
+    // Places 1 and 2 hold the two numbers; the rest of the board is dealt in order.
+    QList<qint16> order{0, qint16(first), qint16(second)};
+    for (qint16 k = 1; k <= 52; ++k)
+        if (k != first && k != second)
+            order.append(k);
+    Concentration board;
+    board.start(order, Concentration::MatchType(type));
+    QCOMPARE(board.pick(1), Concentration::Pick::First);
+    QVERIFY(board.isTaken(1));
+    QCOMPARE(board.pickNumber(), 2);
+    QCOMPARE(board.pick(2), match ? Concentration::Pick::Match : Concentration::Pick::NoMatch);
+    QCOMPARE(board.isTaken(1), match);
+    QCOMPARE(board.isTaken(2), match);
+    QCOMPARE(board.isMatched(2), match);
+    QCOMPARE(board.matches(), match ? 1 : 0);
+    QCOMPARE(board.remaining(), match ? 50 : 52);
+    QCOMPARE(board.guesses(), 2);
+    QCOMPARE(board.pickNumber(), 1);
+    QCOMPARE(board.firstPlace(), 1);
+    QCOMPARE(board.secondPlace(), 2);
+}
+
+void tst_cards_rules::concentrationIgnoresTakenAndOutside()
+{
+    Concentration board;
+    QCOMPARE(board.pick(1), Concentration::Pick::Ignored); // no game yet
+    board.start(Concentration::ByValue);
+    QCOMPARE(board.guesses(), 0);
+    for (int place : {0, -1, 53, 30000})
+        QCOMPARE(board.pick(place), Concentration::Pick::Ignored);
+    QCOMPARE(board.pick(5), Concentration::Pick::First);
+    QCOMPARE(board.pick(5), Concentration::Pick::Ignored); // the card already turned
+    QCOMPARE(board.guesses(), 1);
+    QCOMPARE(board.pickNumber(), 2);
+    board.stop();
+    QCOMPARE(board.pick(6), Concentration::Pick::Ignored);
+    QCOMPARE(board.guesses(), 1);
+}
+
+void tst_cards_rules::concentrationPerfectGame()
+{
+    for (const auto type : {Concentration::ByValue, Concentration::BySuit}) {
+        Generator random(9 + type);
+        Concentration board;
+        board.start(type, random);
+        // Pair the places up as a pupil with a perfect memory would.
+        QList<int> left;
+        for (int place = 1; place <= Concentration::Places; ++place)
+            left.append(place);
+        const int pairsToFind = type == Concentration::ByValue ? 26 : 24;
+        int pairs = 0;
+        while (pairs < pairsToFind) {
+            const int first = left.takeFirst();
+            const auto a = board.card(first);
+            const auto partner = std::find_if(left.begin(), left.end(), [&](int place) {
+                const auto b = board.card(place);
+                return type == Concentration::BySuit ? a.suit == b.suit : a.value == b.value;
+            });
+            if (partner == left.end())
+                continue;
+            const int second = *partner;
+            left.erase(partner);
+            QCOMPARE(board.pick(first), Concentration::Pick::First);
+            ++pairs;
+            QCOMPARE(board.pick(second), pairs < pairsToFind ? Concentration::Pick::Match
+                                                             : Concentration::Pick::AllMatched);
+            // A matched card cannot be picked again.
+            QCOMPARE(board.pick(second), Concentration::Pick::Ignored);
+        }
+        QCOMPARE(board.guesses(), 2 * pairsToFind);
+        QCOMPARE(board.matches(), pairsToFind);
+        // By suit one card of each suit is left over, for it has no partner.
+        QCOMPARE(board.remaining(), 52 - 2 * pairsToFind);
+        QVERIFY(!board.isRunning());
+    }
+}
+
+void tst_cards_rules::concentrationPlaceFromPoint_data()
+{
+    QTest::addColumn<QPointF>("point");
+    QTest::addColumn<int>("place");
+    // A grid of 13 cards of 20 across and 4 of 30 down, from (10, 40).
+    QTest::newRow("top left corner") << QPointF(10, 40) << 1;
+    QTest::newRow("top right card") << QPointF(269.9, 69.9) << 13;
+    QTest::newRow("second row, first column") << QPointF(10, 70) << 14;
+    QTest::newRow("last card") << QPointF(269.9, 159.9) << 52;
+    QTest::newRow("left of the grid") << QPointF(9.9, 50) << 0;
+    QTest::newRow("right of the grid") << QPointF(270, 50) << 0;
+    QTest::newRow("above the grid") << QPointF(50, 39.9) << 0;
+    QTest::newRow("below the grid") << QPointF(50, 160) << 0;
+    QTest::newRow("far away") << QPointF(-1e9, 1e12) << 0;
+}
+
+void tst_cards_rules::concentrationPlaceFromPoint()
+{
+    QFETCH(QPointF, point);
+    QFETCH(int, place);
+    QCOMPARE(Concentration::placeAt(point, QRectF(10, 40, 260, 120)), place);
+    QCOMPARE(Concentration::placeAt(point, QRectF()), 0);
+}
+
+void tst_cards_rules::blackjackHands_data()
+{
+    // Deck positions in dealing order: the computer's two cards, the pupil's two, then the
+    // cards drawn. Positions 1 to 13 are A, 2 ... 10, J, Q, K of suit 0; 14 is the next ace.
+    QTest::addColumn<QList<int>>("deal");
+    QTest::addColumn<QString>("moves");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<QString>("sound");
+    QTest::addColumn<int>("points");
+    QTest::addColumn<int>("playerTotal");
+    QTest::addColumn<int>("computerCards");
+    QTest::newRow("both blackjack") << QList<int>{1, 13, 14, 26} << ""
+                                    << "Two Blackjacks!"
+                                    << "wow.wav" << 0 << 21 << 2;
+    QTest::newRow("computer blackjack") << QList<int>{1, 13, 10, 9} << ""
+                                        << "Computer Blackjack!"
+                                        << "boing.wav" << -10 << 19 << 2;
+    QTest::newRow("pupil blackjack") << QList<int>{10, 9, 1, 13} << ""
+                                     << "You have Blackjack!"
+                                     << "tada.wav" << 15 << 21 << 2;
+    QTest::newRow("pupil busts") << QList<int>{10, 7, 23, 19, 13} << "H"
+                                 << "You Bust!"
+                                 << "boing.wav" << -10 << 26 << 2;
+    QTest::newRow("computer higher") << QList<int>{10, 9, 23, 8} << "S"
+                                     << "Computer Wins!"
+                                     << "boing.wav" << -10 << 18 << 2;
+    QTest::newRow("soft 17 stands, push") << QList<int>{1, 6, 14, 19} << "S"
+                                          << "It's a Push!"
+                                          << "chimes.wav" << 0 << 17 << 2;
+    QTest::newRow("pupil higher") << QList<int>{10, 7, 23, 9} << "S"
+                                  << "You Win!"
+                                  << "tada.wav" << 10 << 19 << 2;
+    QTest::newRow("computer busts") << QList<int>{10, 6, 23, 8, 13} << "S"
+                                    << "Computer Busts!"
+                                    << "tada.wav" << 10 << 18 << 3;
+    QTest::newRow("computer stuck at six cards") << QList<int>{2, 15, 10, 9, 28, 41, 3, 16} << "S"
+                                                 << "You Win!"
+                                                 << "tada.wav" << 10 << 19 << 6;
+    QTest::newRow("ace and ace is 12") << QList<int>{10, 7, 1, 14} << "S"
+                                       << "Computer Wins!"
+                                       << "boing.wav" << -10 << 12 << 2;
+    // Six cards without passing 21 stand by themselves: 2+2+2+2+3+3 = 14 against 17.
+    QTest::newRow("pupil's six cards stand") << QList<int>{10, 7, 2, 15, 28, 41, 3, 16} << "HHHH"
+                                             << "Computer Wins!"
+                                             << "boing.wav" << -10 << 14 << 2;
+    QTest::newRow("hit then stay with an ace") << QList<int>{10, 8, 4, 5, 1} << "HS"
+                                               << "You Win!"
+                                               << "tada.wav" << 10 << 20 << 2;
+}
+
+void tst_cards_rules::blackjackHands()
+{
+    QFETCH(QList<int>, deal);
+    QFETCH(QString, moves);
+    QFETCH(QString, message);
+    QFETCH(QString, sound);
+    QFETCH(int, points);
+    QFETCH(int, playerTotal);
+    QFETCH(int, computerCards);
+    Blackjack game;
+    Stack(game.deck(), deal);
+    Blackjack::Outcome outcome = game.newHand();
+    QCOMPARE(game.computer().cards(), 2);
+    QCOMPARE(game.player().cards(), 2);
+    QCOMPARE(int(game.deck().next), 5);
+    for (const QChar move : moves) {
+        QVERIFY(!game.handOver());
+        QVERIFY(game.holeCardHidden());
+        outcome = move == u'H' ? game.hit() : game.stay();
+    }
+    QVERIFY(game.handOver());
+    QVERIFY(!game.holeCardHidden());
+    const Blackjack::Ending end = Blackjack::ending(outcome);
+    QCOMPARE(end.message, message);
+    QCOMPARE(end.sound, sound);
+    QCOMPARE(end.points, points);
+    QCOMPARE(game.winnings(), points);
+    QCOMPARE(game.player().total, playerTotal);
+    QCOMPARE(game.computer().cards(), computerCards);
+    // An ended hand takes no more cards.
+    const int next = game.deck().next;
+    QCOMPARE(game.hit(), outcome);
+    QCOMPARE(game.stay(), outcome);
+    QCOMPARE(int(game.deck().next), next);
+    QCOMPARE(game.winnings(), points);
+}
+
+void tst_cards_rules::blackjackBestTotal_data()
+{
+    QTest::addColumn<int>("hard");
+    QTest::addColumn<int>("aces");
+    QTest::addColumn<int>("best");
+    QTest::newRow("no ace") << 16 << 0 << 16;
+    QTest::newRow("no ace, over") << 25 << 0 << 25;
+    QTest::newRow("ace and six") << 7 << 1 << 17;
+    QTest::newRow("ace and ace") << 2 << 2 << 12;
+    QTest::newRow("ace counts 11 up to 21") << 11 << 1 << 21;
+    QTest::newRow("ace stays 1 past 21") << 15 << 1 << 15;
+    QTest::newRow("four aces") << 4 << 4 << 14;
+    QTest::newRow("two aces and nine") << 11 << 2 << 21;
+}
+
+void tst_cards_rules::blackjackBestTotal()
+{
+    QFETCH(int, hard);
+    QFETCH(int, aces);
+    QFETCH(int, best);
+    QCOMPARE(Blackjack::bestTotal(hard, aces), best);
+}
+
+void tst_cards_rules::blackjackWinningsText()
+{
+    QCOMPARE(Blackjack::winningsText(0), QStringLiteral("Even"));
+    QCOMPARE(Blackjack::winningsText(15), QStringLiteral("Won 15"));
+    QCOMPARE(Blackjack::winningsText(-10), QStringLiteral("Lost 10"));
+    // Two lost hands, then two won: Lost 20 and back to Even.
+    Blackjack game;
+    const QList<std::pair<QList<int>, bool>> hands{{{1, 13, 10, 9}, false},
+                                                   {{14, 26, 11, 12}, false},
+                                                   {{10, 7, 23, 9}, true},
+                                                   {{10, 7, 23, 9}, true}};
+    QStringList shown;
+    for (const auto &[deal, stays] : hands) {
+        Stack(game.deck(), deal);
+        game.newHand();
+        if (stays)
+            game.stay();
+        shown.append(Blackjack::winningsText(game.winnings()));
+    }
+    QCOMPARE(shown, (QStringList{"Lost 10", "Lost 20", "Lost 10", "Even"}));
+}
+
+void tst_cards_rules::blackjackReshufflesPastSlot35()
+{
+    Generator random(3);
+    Blackjack game(&random);
+    game.newGame();
+    QCOMPARE(game.winnings(), Blackjack::ending(game.outcome()).points);
+    for (const int next : {35, 36}) {
+        Stack(game.deck(), {});
+        const BlackjackDeck before = game.deck();
+        game.deck().next = qint16(next);
+        game.newHand();
+        if (next == 35) {
+            // Same deck: slots 35 to 38 are dealt.
+            QCOMPARE(game.computer().held, (QList<int>{35, 36}));
+            QCOMPARE(game.player().held, (QList<int>{37, 38}));
+            QCOMPARE(int(game.deck().next), 39);
+            QCOMPARE(game.deck().text, before.text);
+        } else {
+            QCOMPARE(game.computer().held, (QList<int>{1, 2}));
+            QCOMPARE(int(game.deck().next), 5);
+            QVERIFY(game.deck().text != before.text || game.deck().suit != before.suit);
+        }
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_cards_rules)
+#include "tst_cards_rules.moc"
