@@ -2,6 +2,9 @@
 // The one list of the activities the menu opens.
 #include "Activities.h"
 
+#include "cards/frmBlack.h"
+#include "cards/frmConc.h"
+#include "cards/frmWar.h"
 #include "mathrace/frmMRace.h"
 #include "stopthief/frmThief.h"
 
@@ -29,7 +32,9 @@ QList<ActivityEntry> Activities()
         {11, QStringLiteral("US Presidents"), {}, QStringLiteral("presidents")},
         {12, QStringLiteral("Keyboarding"), {}, QStringLiteral("typing")},
         // The card games open the one last played: 1 War, 2 Concentration, 3 Blackjack.
-        {13, QStringLiteral("\tDeckhand"), {}, QStringLiteral("cards")},
+        {13, QStringLiteral("\tDeckhand"),
+         CardGameOpener(opens<frmWar>(), opens<frmConc>(), opens<frmBlack>()),
+         QStringLiteral("cards")},
         {14, QStringLiteral("Pizza Place"), {}, QStringLiteral("pizza")},
     };
 }
