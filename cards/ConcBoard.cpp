@@ -24,6 +24,12 @@ void ConcBoard::setBackColour(const QColor &colour)
 void ConcBoard::setCursor(int place)
 {
     m_cursor = qBound(1, place, int(Concentration::Places));
+    const int row = (m_cursor - 1) / Concentration::Columns + 1;
+    const int column = (m_cursor - 1) % Concentration::Columns + 1;
+    // Screen readers follow the ring by row and place, and hear when a place is empty.
+    setAccessibleDescription(m_game.isMatched(m_cursor)
+                                 ? tr("Row %1, card %2: matched").arg(row).arg(column)
+                                 : tr("Row %1, card %2").arg(row).arg(column));
     update();
 }
 
@@ -87,8 +93,7 @@ void ConcBoard::mousePressEvent(QMouseEvent *event)
     const int place = Concentration::placeAt(event->position(), gridRect());
     if (place == 0)
         return;
-    m_cursor = place;
-    update();
+    setCursor(place);
     emit picked(place);
 }
 

@@ -45,6 +45,11 @@ frmWar::frmWar(QWidget *parent) : CardTable(WarGame, QStringLiteral("cards-war")
         lblMatch[size_t(side)]->setStyleSheet(
             QStringLiteral("QLabel { background: #FFF9C4; color: #1A237E; border-radius: 10px;"
                            " padding: 2px 10px; }"));
+        // The counts appear with the first game; until then their boxes would stand empty.
+        QSizePolicy keep = lblMatch[size_t(side)]->sizePolicy();
+        keep.setRetainSizeWhenHidden(true);
+        lblMatch[size_t(side)]->setSizePolicy(keep);
+        lblMatch[size_t(side)]->hide();
         scaleWithWindow(lblP[size_t(side)], 1.3);
         scaleWithWindow(lblMatch[size_t(side)], 1.5);
         QFont bold = lblP[size_t(side)]->font();
@@ -113,6 +118,8 @@ void frmWar::showTableCard(int slot)
 
 void frmWar::showCounts()
 {
+    lblMatch[1]->show();
+    lblMatch[2]->show();
     lblMatch[1]->setText(QString::number(m_war.count(War::Pupil)));
     lblMatch[2]->setText(QString::number(m_war.count(War::Computer)));
 }

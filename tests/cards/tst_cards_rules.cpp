@@ -14,8 +14,7 @@ class tst_cards_rules : public QObject {
 private slots:
     void numberingsAtTheEdges_data();
     void numberingsAtTheEdges();
-    void shuffleCardsDealsEveryPositionOnce();
-    void shuffleCardsCountsFreePositions();
+    void shuffleCards();
     void warRounds();
     void warInsideAWarGivesBackOwnCards();
     void warPlaysOnFromTheShuffledWonPile();
@@ -29,8 +28,6 @@ private slots:
     void concentrationPlaceFromPoint();
     void blackjackHands_data();
     void blackjackHands();
-    void blackjackBestTotal_data();
-    void blackjackBestTotal();
     void blackjackWinningsText();
     void blackjackReshufflesPastSlot35();
 };
@@ -119,48 +116,37 @@ void tst_cards_rules::numberingsAtTheEdges()
     QCOMPARE(pairCard.suit, concentrationSuit);
 }
 
-void tst_cards_rules::shuffleCardsDealsEveryPositionOnce()
+void tst_cards_rules::shuffleCards()
 {
+    BlackjackDeck deck;
+    const auto card = [&deck](int slot) {
+        return QStringLiteral("%1/%2").arg(deck.suit[size_t(slot)]).arg(deck.text[size_t(slot)]);
+    };
     for (qint64 seed = 1; seed <= 300; ++seed) {
         Generator random(seed);
-        BlackjackDeck deck;
         deck.next = 30;
         Shuffle_Cards(deck, random);
         QCOMPARE(int(deck.next), 1);
         QSet<QString> seen;
         for (int slot = 1; slot <= Deck::Size; ++slot)
-            seen.insert(
-                QStringLiteral("%1/%2").arg(deck.suit[size_t(slot)]).arg(deck.text[size_t(slot)]));
+            seen.insert(card(slot));
         QCOMPARE(seen.size(), Deck::Size);
     }
-}
-
-void tst_cards_rules::shuffleCardsCountsFreePositions()
-{
-    // Draws of 0 always take the first free position and draws near 1 the last, so the deck
-    // comes out in order and in reverse; a draw of 0.5 of 52 takes position 27.
+    // Draws of 0 take the first free position, so the deck comes out in order; a first draw
+    // of 0.5 takes position 27 (ace of suit 2) and draws near 1 then the last free ones.
     ScriptedRandom low;
     low.values = QList<double>(52, 0.0);
-    BlackjackDeck deck;
     Shuffle_Cards(deck, low);
-    for (int slot = 1; slot <= Deck::Size; ++slot) {
-        QCOMPARE(deck.text[size_t(slot)], Deck::BlackjackText((slot - 1) % 13));
-        QCOMPARE(int(deck.suit[size_t(slot)]), (slot - 1) / 13);
-    }
+    for (int slot = 1; slot <= Deck::Size; ++slot)
+        QCOMPARE(
+            card(slot),
+            QStringLiteral("%1/%2").arg((slot - 1) / 13).arg(Deck::BlackjackText((slot - 1) % 13)));
     ScriptedRandom high;
     high.values = QList<double>(52, 0.9999);
     high.values[0] = 0.5;
     Shuffle_Cards(deck, high);
-    QCOMPARE(deck.text[1], QStringLiteral("A")); // position 27: ace of suit 2
-    QCOMPARE(int(deck.suit[1]), 2);
-    QCOMPARE(deck.text[2], QStringLiteral("K")); // then 52, 51, ... skipping 27
-    QCOMPARE(int(deck.suit[2]), 3);
-    QCOMPARE(deck.text[26], QStringLiteral("2")); // position 28, then 26 next to it
-    QCOMPARE(int(deck.suit[26]), 2);
-    QCOMPARE(deck.text[27], QStringLiteral("K"));
-    QCOMPARE(int(deck.suit[27]), 1);
-    QCOMPARE(deck.text[52], QStringLiteral("A"));
-    QCOMPARE(int(deck.suit[52]), 0);
+    const QStringList expected{"2/A", "3/K", "2/2", "1/K", "0/A"};
+    QCOMPARE((QStringList{card(1), card(2), card(26), card(27), card(52)}), expected);
 }
 
 void tst_cards_rules::warRounds()
@@ -174,14 +160,12 @@ void tst_cards_rules::warRounds()
     computer += Rest({13, 12}).mid(25);
     war.deal(pupil, computer);
     QVERIFY(war.turnPair());
-    QCOMPARE(war.tableCard(1), 13);
     QCOMPARE(war.tableCard(6), 12);
     QCOMPARE(war.settle(), War::Result::PupilTakes);
     QCOMPARE(war.count(War::Pupil), 27);
     QCOMPARE(war.count(War::Computer), 25);
     QCOMPARE(war.wonPile(War::Pupil), (QList<qint16>{13, 12}));
     QCOMPARE(war.tableCard(1), 0);
-    QCOMPARE(war.current(), 1);
 
     // Two 2s (1 and 14) start a war: three face-down pairs, then the pair in slot 5 decides,
     // here the computer's 5 (17) against the pupil's 4 (3).
@@ -192,22 +176,16 @@ void tst_cards_rules::warRounds()
     war.deal(pupil, computer);
     QVERIFY(war.turnPair());
     QCOMPARE(war.settle(), War::Result::War);
-    QCOMPARE(war.current(), 1);
     QVERIFY(war.layWar());
     QCOMPARE(war.current(), 5);
-    for (int slot = 2; slot <= 4; ++slot) {
-        QCOMPARE(war.tableCard(slot), int(pupil[slot - 1]));
-        QCOMPARE(war.tableCard(slot + 5), int(computer[slot - 1]));
-    }
-    QCOMPARE(war.tableCard(5), 0);
+    for (int slot = 2; slot <= 4; ++slot)
+        QCOMPARE(war.tableCard(slot) * 100 + war.tableCard(slot + 5),
+                 pupil[slot - 1] * 100 + computer[slot - 1]);
     QVERIFY(war.turnPair());
-    QCOMPARE(war.tableCard(5), 3);
-    QCOMPARE(war.tableCard(10), 17);
     QCOMPARE(war.settle(), War::Result::ComputerTakes);
     QCOMPARE(war.count(War::Pupil), 21);
     QCOMPARE(war.count(War::Computer), 31);
     QCOMPARE(war.wonPile(War::Computer), (QList<qint16>{1, 4, 5, 6, 3, 14, 30, 31, 32, 17}));
-    QVERIFY(!war.isOver());
 }
 
 void tst_cards_rules::warInsideAWarGivesBackOwnCards()
@@ -225,8 +203,6 @@ void tst_cards_rules::warInsideAWarGivesBackOwnCards()
     QCOMPARE(war.wonPile(War::Pupil), pupil.mid(0, 5));
     QCOMPARE(war.wonPile(War::Computer), computer.mid(0, 5));
     QCOMPARE(war.count(War::Pupil), 26);
-    QCOMPARE(war.count(War::Computer), 26);
-    QCOMPARE(war.current(), 1);
     QVERIFY(war.turnPair());
     QCOMPARE(war.tableCard(1), 40);
 }
@@ -317,17 +293,13 @@ void tst_cards_rules::concentrationMatching()
     board.start(order, Concentration::MatchType(type));
     QCOMPARE(board.pick(1), Concentration::Pick::First);
     QVERIFY(board.isTaken(1));
-    QCOMPARE(board.pickNumber(), 2);
     QCOMPARE(board.pick(2), match ? Concentration::Pick::Match : Concentration::Pick::NoMatch);
-    QCOMPARE(board.isTaken(1), match);
-    QCOMPARE(board.isTaken(2), match);
-    QCOMPARE(board.isMatched(2), match);
+    // A miss turns both cards back down; a match keeps them.
+    QCOMPARE(board.isTaken(1) && board.isTaken(2) && board.isMatched(2), match);
     QCOMPARE(board.matches(), match ? 1 : 0);
     QCOMPARE(board.remaining(), match ? 50 : 52);
     QCOMPARE(board.guesses(), 2);
     QCOMPARE(board.pickNumber(), 1);
-    QCOMPARE(board.firstPlace(), 1);
-    QCOMPARE(board.secondPlace(), 2);
 }
 
 void tst_cards_rules::concentrationIgnoresTakenAndOutside()
@@ -349,40 +321,29 @@ void tst_cards_rules::concentrationIgnoresTakenAndOutside()
 
 void tst_cards_rules::concentrationPerfectGame()
 {
-    for (const auto type : {Concentration::ByValue, Concentration::BySuit}) {
-        Generator random(9 + type);
-        Concentration board;
-        board.start(type, random);
-        // Pair the places up as a pupil with a perfect memory would.
-        QList<int> left;
-        for (int place = 1; place <= Concentration::Places; ++place)
-            left.append(place);
-        const int pairsToFind = type == Concentration::ByValue ? 26 : 24;
-        int pairs = 0;
-        while (pairs < pairsToFind) {
-            const int first = left.takeFirst();
-            const auto a = board.card(first);
-            const auto partner = std::find_if(left.begin(), left.end(), [&](int place) {
-                const auto b = board.card(place);
-                return type == Concentration::BySuit ? a.suit == b.suit : a.value == b.value;
-            });
-            if (partner == left.end())
-                continue;
-            const int second = *partner;
-            left.erase(partner);
-            QCOMPARE(board.pick(first), Concentration::Pick::First);
-            ++pairs;
-            QCOMPARE(board.pick(second), pairs < pairsToFind ? Concentration::Pick::Match
-                                                             : Concentration::Pick::AllMatched);
-            // A matched card cannot be picked again.
-            QCOMPARE(board.pick(second), Concentration::Pick::Ignored);
-        }
-        QCOMPARE(board.guesses(), 2 * pairsToFind);
-        QCOMPARE(board.matches(), pairsToFind);
-        // By suit one card of each suit is left over, for it has no partner.
-        QCOMPARE(board.remaining(), 52 - 2 * pairsToFind);
-        QVERIFY(!board.isRunning());
+    // A pupil with a perfect memory: every second card turned finds its partner.
+    Generator random(9);
+    Concentration board;
+    board.start(Concentration::ByValue, random);
+    QList<int> left;
+    for (int place = 1; place <= Concentration::Places; ++place)
+        left.append(place);
+    for (int pairs = 1; pairs <= 26; ++pairs) {
+        const int first = left.takeFirst();
+        const auto partner = std::find_if(left.begin(), left.end(), [&](int place) {
+            return board.card(place).value == board.card(first).value;
+        });
+        QVERIFY(partner != left.end());
+        QCOMPARE(board.pick(first), Concentration::Pick::First);
+        QCOMPARE(board.pick(*partner),
+                 pairs < 26 ? Concentration::Pick::Match : Concentration::Pick::AllMatched);
+        QCOMPARE(board.pick(*partner), Concentration::Pick::Ignored); // gone from the board
+        left.erase(partner);
     }
+    QCOMPARE(board.guesses(), 52);
+    QCOMPARE(board.matches(), 26);
+    QCOMPARE(board.remaining(), 0);
+    QVERIFY(!board.isRunning());
 }
 
 void tst_cards_rules::concentrationPlaceFromPoint_data()
@@ -471,8 +432,6 @@ void tst_cards_rules::blackjackHands()
     Blackjack game;
     Stack(game.deck(), deal);
     Blackjack::Outcome outcome = game.newHand();
-    QCOMPARE(game.computer().cards(), 2);
-    QCOMPARE(game.player().cards(), 2);
     QCOMPARE(int(game.deck().next), 5);
     for (const QChar move : moves) {
         QVERIFY(!game.handOver());
@@ -484,7 +443,6 @@ void tst_cards_rules::blackjackHands()
     const Blackjack::Ending end = Blackjack::ending(outcome);
     QCOMPARE(end.message, message);
     QCOMPARE(end.sound, sound);
-    QCOMPARE(end.points, points);
     QCOMPARE(game.winnings(), points);
     QCOMPARE(game.player().total, playerTotal);
     QCOMPARE(game.computer().cards(), computerCards);
@@ -493,37 +451,11 @@ void tst_cards_rules::blackjackHands()
     QCOMPARE(game.hit(), outcome);
     QCOMPARE(game.stay(), outcome);
     QCOMPARE(int(game.deck().next), next);
-    QCOMPARE(game.winnings(), points);
-}
-
-void tst_cards_rules::blackjackBestTotal_data()
-{
-    QTest::addColumn<int>("hard");
-    QTest::addColumn<int>("aces");
-    QTest::addColumn<int>("best");
-    QTest::newRow("no ace") << 16 << 0 << 16;
-    QTest::newRow("no ace, over") << 25 << 0 << 25;
-    QTest::newRow("ace and six") << 7 << 1 << 17;
-    QTest::newRow("ace and ace") << 2 << 2 << 12;
-    QTest::newRow("ace counts 11 up to 21") << 11 << 1 << 21;
-    QTest::newRow("ace stays 1 past 21") << 15 << 1 << 15;
-    QTest::newRow("four aces") << 4 << 4 << 14;
-    QTest::newRow("two aces and nine") << 11 << 2 << 21;
-}
-
-void tst_cards_rules::blackjackBestTotal()
-{
-    QFETCH(int, hard);
-    QFETCH(int, aces);
-    QFETCH(int, best);
-    QCOMPARE(Blackjack::bestTotal(hard, aces), best);
 }
 
 void tst_cards_rules::blackjackWinningsText()
 {
-    QCOMPARE(Blackjack::winningsText(0), QStringLiteral("Even"));
     QCOMPARE(Blackjack::winningsText(15), QStringLiteral("Won 15"));
-    QCOMPARE(Blackjack::winningsText(-10), QStringLiteral("Lost 10"));
     // Two lost hands, then two won: Lost 20 and back to Even.
     Blackjack game;
     const QList<std::pair<QList<int>, bool>> hands{{{1, 13, 10, 9}, false},
@@ -546,7 +478,6 @@ void tst_cards_rules::blackjackReshufflesPastSlot35()
     Generator random(3);
     Blackjack game(&random);
     game.newGame();
-    QCOMPARE(game.winnings(), Blackjack::ending(game.outcome()).points);
     for (const int next : {35, 36}) {
         Stack(game.deck(), {});
         const BlackjackDeck before = game.deck();
