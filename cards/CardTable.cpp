@@ -54,6 +54,7 @@ CardTable::CardTable(CardGame game, const QString &helpTopic, QWidget *parent)
     const std::array<std::pair<CardGame, QString>, 3> games{
         std::pair{WarGame, tr("&War")}, std::pair{ConcentrationGame, tr("&Concentration")},
         std::pair{BlackjackGame, tr("&Blackjack")}};
+    scaleWithWindow(fraGame, 1.0);
     auto *gameButtons = new QVBoxLayout(fraGame);
     gameButtons->setSpacing(6);
     int index = 0;

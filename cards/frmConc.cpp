@@ -62,17 +62,22 @@ frmConc::frmConc(QWidget *parent)
     }
 
     Frame1 = Named(new QGroupBox(tr("Match Type"), this), QStringLiteral("Frame1"));
-    Frame1->setStyleSheet(
-        QStringLiteral("QGroupBox { color: white; border: 2px solid #A5D6A7; border-radius: 10px;"
-                       " margin-top: 14px; padding: 8px 6px 4px 6px; }"
-                       "QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; }"
-                       "QRadioButton { color: white; }"));
+    Frame1->setStyleSheet(QStringLiteral(
+        "QGroupBox { color: white; border: 2px solid #A5D6A7; border-radius: 10px;"
+        " margin-top: 14px; padding: 8px 6px 4px 6px; }"
+        "QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; }"));
     auto *types = new QVBoxLayout(Frame1);
     const QString typeCaptions[] = {tr("Value"), tr("Suit")};
     for (int i = 0; i < 2; ++i) {
         optType[size_t(i)] =
             Named(new QRadioButton(typeCaptions[i], Frame1), ArrayName("optType", i));
         optType[size_t(i)]->setAccessibleName(tr("Match by %1").arg(typeCaptions[i]));
+        QPalette light = optType[size_t(i)]->palette();
+        light.setColor(QPalette::Active, QPalette::WindowText, Qt::white);
+        light.setColor(QPalette::Inactive, QPalette::WindowText, Qt::white);
+        light.setColor(QPalette::Disabled, QPalette::WindowText, QColor("#C8E6C9"));
+        optType[size_t(i)]->setPalette(light);
+        scaleWithWindow(optType[size_t(i)], 1.0);
         types->addWidget(optType[size_t(i)]);
         connect(optType[size_t(i)], &QRadioButton::toggled, this, [i](bool on) {
             if (on)
@@ -81,6 +86,7 @@ frmConc::frmConc(QWidget *parent)
     }
     // A damaged setting reads as matching by value.
     optType[TheSettings().cards.concentration == 1 ? 1 : 0]->setChecked(true);
+    scaleWithWindow(Frame1, 1.0);
     sideLayout()->insertWidget(3, Frame1);
 
     auto *below = new QHBoxLayout;
