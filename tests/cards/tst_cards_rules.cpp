@@ -61,59 +61,36 @@ QList<qint16> Rest(const QList<qint16> &named)
 
 void tst_cards_rules::numberingsAtTheEdges_data()
 {
+    // Each card as the games read it: suit, War text, Blackjack text and value, then
+    // Concentration's text and suit for the same number.
     QTest::addColumn<int>("card");
-    QTest::addColumn<int>("suit");
-    QTest::addColumn<QString>("war");
-    QTest::addColumn<QString>("blackjack");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<QString>("concentration");
-    QTest::addColumn<int>("concentrationSuit");
-    QTest::newRow("1") << 1 << 0 << "2"
-                       << "A" << 1 << "A" << 0;
-    QTest::newRow("2") << 2 << 0 << "3"
-                       << "2" << 2 << "A" << 1;
-    QTest::newRow("9") << 9 << 0 << "10"
-                       << "9" << 9 << "5" << 0;
-    QTest::newRow("10") << 10 << 0 << "J"
-                        << "10" << 10 << "5" << 1;
-    QTest::newRow("12") << 12 << 0 << "K"
-                        << "Q" << 10 << "6" << 1;
-    QTest::newRow("13") << 13 << 0 << "A"
-                        << "K" << 10 << "7" << 0;
-    QTest::newRow("14") << 14 << 1 << "2"
-                        << "A" << 1 << "7" << 1;
-    QTest::newRow("26") << 26 << 1 << "A"
-                        << "K" << 10 << "K" << 1;
-    QTest::newRow("27") << 27 << 2 << "2"
-                        << "A" << 1 << "A" << 2;
-    QTest::newRow("28") << 28 << 2 << "3"
-                        << "2" << 2 << "A" << 3;
-    QTest::newRow("52") << 52 << 3 << "A"
-                        << "K" << 10 << "K" << 3;
+    QTest::addColumn<QString>("reads");
+    const std::pair<int, const char *> rows[] = {
+        {1, "0 2 A 1 A 0"},   {2, "0 3 2 2 A 1"},   {9, "0 10 9 9 5 0"}, {10, "0 J 10 10 5 1"},
+        {12, "0 K Q 10 6 1"}, {13, "0 A K 10 7 0"}, {14, "1 2 A 1 7 1"}, {26, "1 A K 10 K 1"},
+        {27, "2 2 A 1 A 2"},  {28, "2 3 2 2 A 3"},  {52, "3 A K 10 K 3"}};
+    for (const auto &[card, reads] : rows)
+        QTest::newRow(qPrintable(QString::number(card))) << card << QString::fromLatin1(reads);
 }
 
 void tst_cards_rules::numberingsAtTheEdges()
 {
     QFETCH(int, card);
-    QFETCH(int, suit);
-    QFETCH(QString, war);
-    QFETCH(QString, blackjack);
-    QFETCH(int, value);
-    QFETCH(QString, concentration);
-    QFETCH(int, concentrationSuit);
-    QCOMPARE(Deck::SuitIndex(card), suit);
-    QCOMPARE(Deck::RankIndex(card), (card - 1) % 13);
-    QCOMPARE(Deck::WarText(Deck::RankIndex(card)), war);
-    QCOMPARE(Deck::BlackjackText(Deck::RankIndex(card)), blackjack);
-    QCOMPARE(Deck::BlackjackValue(Deck::RankIndex(card)), value);
+    QFETCH(QString, reads);
+    const int rank = Deck::RankIndex(card);
     BlackjackDeck deck;
     deck.place(7, card);
-    QCOMPARE(deck.text[7], blackjack);
-    QCOMPARE(int(deck.value[7]), value);
-    QCOMPARE(int(deck.suit[7]), suit);
     const Deck::ConcentrationCard pairCard = Deck::ConcentrationNumbering(card);
-    QCOMPARE(Deck::ConcentrationText(pairCard.value), concentration);
-    QCOMPARE(pairCard.suit, concentrationSuit);
+    const QString seen = QStringLiteral("%1 %2 %3 %4 %5 %6")
+                             .arg(Deck::SuitIndex(card))
+                             .arg(Deck::WarText(rank), Deck::BlackjackText(rank))
+                             .arg(Deck::BlackjackValue(rank))
+                             .arg(Deck::ConcentrationText(pairCard.value))
+                             .arg(pairCard.suit);
+    QCOMPARE(seen, reads);
+    QCOMPARE(rank, (card - 1) % 13);
+    QCOMPARE(QStringLiteral("%1 %2 %3").arg(deck.suit[7]).arg(deck.text[7]).arg(deck.value[7]),
+             reads.section(u' ', 0, 0) + u' ' + reads.section(u' ', 2, 3));
 }
 
 void tst_cards_rules::shuffleCards()
@@ -372,59 +349,34 @@ void tst_cards_rules::blackjackHands_data()
 {
     // Deck positions in dealing order: the computer's two cards, the pupil's two, then the
     // cards drawn. Positions 1 to 13 are A, 2 ... 10, J, Q, K of suit 0; 14 is the next ace.
+    // The ending reads message|sound|points.
     QTest::addColumn<QList<int>>("deal");
     QTest::addColumn<QString>("moves");
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<QString>("sound");
-    QTest::addColumn<int>("points");
+    QTest::addColumn<QString>("ending");
     QTest::addColumn<int>("playerTotal");
     QTest::addColumn<int>("computerCards");
-    QTest::newRow("both blackjack") << QList<int>{1, 13, 14, 26} << ""
-                                    << "Two Blackjacks!"
-                                    << "wow.wav" << 0 << 21 << 2;
-    QTest::newRow("computer blackjack") << QList<int>{1, 13, 10, 9} << ""
-                                        << "Computer Blackjack!"
-                                        << "boing.wav" << -10 << 19 << 2;
-    QTest::newRow("pupil blackjack") << QList<int>{10, 9, 1, 13} << ""
-                                     << "You have Blackjack!"
-                                     << "tada.wav" << 15 << 21 << 2;
-    QTest::newRow("pupil busts") << QList<int>{10, 7, 23, 19, 13} << "H"
-                                 << "You Bust!"
-                                 << "boing.wav" << -10 << 26 << 2;
-    QTest::newRow("computer higher") << QList<int>{10, 9, 23, 8} << "S"
-                                     << "Computer Wins!"
-                                     << "boing.wav" << -10 << 18 << 2;
-    QTest::newRow("soft 17 stands, push") << QList<int>{1, 6, 14, 19} << "S"
-                                          << "It's a Push!"
-                                          << "chimes.wav" << 0 << 17 << 2;
-    QTest::newRow("pupil higher") << QList<int>{10, 7, 23, 9} << "S"
-                                  << "You Win!"
-                                  << "tada.wav" << 10 << 19 << 2;
-    QTest::newRow("computer busts") << QList<int>{10, 6, 23, 8, 13} << "S"
-                                    << "Computer Busts!"
-                                    << "tada.wav" << 10 << 18 << 3;
-    QTest::newRow("computer stuck at six cards") << QList<int>{2, 15, 10, 9, 28, 41, 3, 16} << "S"
-                                                 << "You Win!"
-                                                 << "tada.wav" << 10 << 19 << 6;
-    QTest::newRow("ace and ace is 12") << QList<int>{10, 7, 1, 14} << "S"
-                                       << "Computer Wins!"
-                                       << "boing.wav" << -10 << 12 << 2;
+    // clang-format off
+    QTest::newRow("both blackjack") << QList<int>{1, 13, 14, 26} << "" << "Two Blackjacks!|wow.wav|0" << 21 << 2;
+    QTest::newRow("computer blackjack") << QList<int>{1, 13, 10, 9} << "" << "Computer Blackjack!|boing.wav|-10" << 19 << 2;
+    QTest::newRow("pupil blackjack") << QList<int>{10, 9, 1, 13} << "" << "You have Blackjack!|tada.wav|15" << 21 << 2;
+    QTest::newRow("pupil busts") << QList<int>{10, 7, 23, 19, 13} << "H" << "You Bust!|boing.wav|-10" << 26 << 2;
+    QTest::newRow("computer higher") << QList<int>{10, 9, 23, 8} << "S" << "Computer Wins!|boing.wav|-10" << 18 << 2;
+    QTest::newRow("soft 17 stands, push") << QList<int>{1, 6, 14, 19} << "S" << "It's a Push!|chimes.wav|0" << 17 << 2;
+    QTest::newRow("pupil higher") << QList<int>{10, 7, 23, 9} << "S" << "You Win!|tada.wav|10" << 19 << 2;
+    QTest::newRow("computer busts") << QList<int>{10, 6, 23, 8, 13} << "S" << "Computer Busts!|tada.wav|10" << 18 << 3;
+    QTest::newRow("computer stuck at six cards") << QList<int>{2, 15, 10, 9, 28, 41, 3, 16} << "S" << "You Win!|tada.wav|10" << 19 << 6;
+    QTest::newRow("ace and ace is 12") << QList<int>{10, 7, 1, 14} << "S" << "Computer Wins!|boing.wav|-10" << 12 << 2;
     // Six cards without passing 21 stand by themselves: 2+2+2+2+3+3 = 14 against 17.
-    QTest::newRow("pupil's six cards stand") << QList<int>{10, 7, 2, 15, 28, 41, 3, 16} << "HHHH"
-                                             << "Computer Wins!"
-                                             << "boing.wav" << -10 << 14 << 2;
-    QTest::newRow("hit then stay with an ace") << QList<int>{10, 8, 4, 5, 1} << "HS"
-                                               << "You Win!"
-                                               << "tada.wav" << 10 << 20 << 2;
+    QTest::newRow("pupil's six cards stand") << QList<int>{10, 7, 2, 15, 28, 41, 3, 16} << "HHHH" << "Computer Wins!|boing.wav|-10" << 14 << 2;
+    QTest::newRow("hit then stay with an ace") << QList<int>{10, 8, 4, 5, 1} << "HS" << "You Win!|tada.wav|10" << 20 << 2;
+    // clang-format on
 }
 
 void tst_cards_rules::blackjackHands()
 {
     QFETCH(QList<int>, deal);
     QFETCH(QString, moves);
-    QFETCH(QString, message);
-    QFETCH(QString, sound);
-    QFETCH(int, points);
+    QFETCH(QString, ending);
     QFETCH(int, playerTotal);
     QFETCH(int, computerCards);
     Blackjack game;
@@ -439,9 +391,8 @@ void tst_cards_rules::blackjackHands()
     QVERIFY(game.handOver());
     QVERIFY(!game.holeCardHidden());
     const Blackjack::Ending end = Blackjack::ending(outcome);
-    QCOMPARE(end.message, message);
-    QCOMPARE(end.sound, sound);
-    QCOMPARE(game.winnings(), points);
+    QCOMPARE(QStringLiteral("%1|%2|%3").arg(end.message, end.sound).arg(end.points), ending);
+    QCOMPARE(game.winnings(), end.points);
     QCOMPARE(game.player().total, playerTotal);
     QCOMPARE(game.computer().cards(), computerCards);
     // An ended hand takes no more cards.

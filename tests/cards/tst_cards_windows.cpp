@@ -157,7 +157,6 @@ void tst_cards_windows::concentrationPicks()
     TheSettings().cards.concentration = 1;
     Shown<frmConc> win;
     frmConc *w = win.w;
-    QCOMPARE(w->windowTitle(), QStringLiteral("Deckhand-Concentration"));
     QVERIFY(w->optType[1]->isChecked());
     QTest::mouseClick(w->optType[0], Qt::LeftButton, {}, QPoint(8, w->optType[0]->height() / 2));
     QCOMPARE(TheSettings().cards.concentration, qint16(0));
@@ -175,7 +174,6 @@ void tst_cards_windows::concentrationPicks()
     QCOMPARE(w->game().guesses(), 0);
 
     QTest::mouseClick(board, Qt::LeftButton, {}, PlacePoint(board, 14));
-    QCOMPARE(w->game().firstPlace(), 14);
     QCOMPARE(w->lblMessage->text(), QStringLiteral("Pick Another Card"));
     QCOMPARE(w->lblMatch[0]->text(), QStringLiteral("1"));
     QVERIFY(w->shpCard[1]->isFaceUp());
@@ -190,7 +188,6 @@ void tst_cards_windows::concentrationPicks()
     QCOMPARE(env.clock.delays, QList<double>{1.0});
     QVERIFY(!w->shpCard[1]->isVisible() && !w->shpCard[2]->isVisible());
     QCOMPARE(w->lblMessage->text(), QStringLiteral("Pick a Card"));
-    QVERIFY(!w->game().isTaken(14));
 
     QTest::mouseClick(board, Qt::LeftButton, {}, PlacePoint(board, 14));
     const int hit = Partner(w->game(), 14, true);
@@ -199,7 +196,6 @@ void tst_cards_windows::concentrationPicks()
     QCOMPARE(w->lblMessage->text(), QStringLiteral("Pick A Card"));
     QCOMPARE(w->lblMatch[0]->text(), QStringLiteral("4"));
     QCOMPARE(w->lblMatch[1]->text(), QStringLiteral("1"));
-    QVERIFY(w->game().isMatched(14) && w->game().isMatched(hit));
     // The options cannot change the rules of a game under way.
     QVERIFY(!w->Frame1->isEnabled());
 }
@@ -256,7 +252,6 @@ void tst_cards_windows::blackjackHands()
     TestEnvironment env;
     Shown<frmBlack> win;
     frmBlack *w = win.w;
-    QCOMPARE(w->windowTitle(), QStringLiteral("Deckhand-Blackjack"));
     QVERIFY(!w->fraPlay->isVisible());
     QTest::mouseClick(w->cmdNew, Qt::LeftButton);
     QVERIFY(w->fraPlay->isVisible() && w->Label2[0]->isVisible());
@@ -336,14 +331,14 @@ void tst_cards_windows::switcherAndMenu()
     menu->openActivity(13);
     QVERIFY(!menu->isVisible());
     QPointer<ActivityWindow> conc = menu->currentActivity();
-    QCOMPARE(conc->objectName(), QStringLiteral("frmConc"));
+    QCOMPARE(conc->windowTitle(), QStringLiteral("Deckhand-Concentration"));
     // Concentration names War and Blackjack; Blackjack replaces it and the menu stays hidden.
     auto *toBlackjack = conc->findChild<QPushButton *>(QStringLiteral("cmdGame_1"));
     QCOMPARE(toBlackjack->text(), QStringLiteral("&Blackjack"));
     QTest::mouseClick(toBlackjack, Qt::LeftButton);
     QCOMPARE(TheSettings().cards.game, qint16(3));
     QTRY_VERIFY(conc.isNull());
-    QCOMPARE(menu->currentActivity()->objectName(), QStringLiteral("frmBlack"));
+    QCOMPARE(menu->currentActivity()->windowTitle(), QStringLiteral("Deckhand-Blackjack"));
     QVERIFY(menu->currentActivity()->isVisible());
     QVERIFY(!menu->isVisible());
 
@@ -363,7 +358,7 @@ void tst_cards_windows::switcherAndMenu()
     QVERIFY(!menu->currentActivity());
     // The menu opens the game last chosen.
     menu->openActivity(13);
-    QCOMPARE(menu->currentActivity()->objectName(), QStringLiteral("frmWar"));
+    QCOMPARE(menu->currentActivity()->windowTitle(), QStringLiteral("Deckhand-War"));
     menu->currentActivity()->close();
     delete menu;
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
