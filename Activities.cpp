@@ -4,6 +4,9 @@
 
 #include "balloon/frmBall.h"
 #include "geography/frmGeo.h"
+#include "cards/frmBlack.h"
+#include "cards/frmConc.h"
+#include "cards/frmWar.h"
 #include "mathrace/frmMRace.h"
 #include "pizza/frmPizza.h"
 #include "spacerace/frmSRace.h"
@@ -33,7 +36,9 @@ QList<ActivityEntry> Activities()
         {11, QStringLiteral("US Presidents"), {}, QStringLiteral("presidents")},
         {12, QStringLiteral("Keyboarding"), {}, QStringLiteral("typing")},
         // The card games open the one last played: 1 War, 2 Concentration, 3 Blackjack.
-        {13, QStringLiteral("\tDeckhand"), {}, QStringLiteral("cards")},
+        {13, QStringLiteral("\tDeckhand"),
+         CardGameOpener(opens<frmWar>(), opens<frmConc>(), opens<frmBlack>()),
+         QStringLiteral("cards")},
         {14, QStringLiteral("Pizza Place"), opens<frmPizza>(), QStringLiteral("pizza")},
     };
 }

@@ -32,6 +32,13 @@ void ActivityWindow::openHelp()
     ShowHelp(this, m_helpTopic);
 }
 
+void ActivityWindow::replaceWith(ActivityWindow *next)
+{
+    m_next = next;
+    close();
+    next->show();
+}
+
 void ActivityWindow::applyLook(const QColor &background)
 {
     QFont base(QStringLiteral("Comic Sans MS"));
@@ -59,7 +66,10 @@ void ActivityWindow::closeEvent(QCloseEvent *event)
         timer->stop();
     StopSound();
     event->accept();
-    emit closed();
+    if (m_next)
+        emit replaced(m_next);
+    else
+        emit closed();
 }
 
 void ActivityWindow::keyPressEvent(QKeyEvent *event)

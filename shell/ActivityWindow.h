@@ -18,11 +18,15 @@ public:
 
 signals:
     void closed();
+    // This window has closed and `next` has opened in its place: the menu stays hidden.
+    void replaced(ActivityWindow *next);
 
 protected:
     // Sets the end button's caption: "&Stop" while something runs, "E&xit" otherwise.
     static void setRunningCaption(QPushButton *button, bool running);
     void openHelp();
+    // Closes this window and opens `next` in its place (the card games switch this way).
+    void replaceWith(ActivityWindow *next);
     // The look every activity shares: friendly 14-point lettering on a window of one colour.
     void applyLook(const QColor &background);
     void showEvent(QShowEvent *event) override;
@@ -32,4 +36,5 @@ protected:
 private:
     QString m_helpTopic;
     bool m_centred = false;
+    ActivityWindow *m_next = nullptr;
 };

@@ -145,9 +145,15 @@ void frmMenu::openActivity(int index)
         qCWarning(lcShell) << "activity" << index << "has nothing to open";
         return;
     }
+    adopt(window);
+    window->show();
+}
+
+void frmMenu::adopt(ActivityWindow *window)
+{
     m_current = window;
     connect(window, &ActivityWindow::closed, this, &frmMenu::activityClosed);
-    window->show();
+    connect(window, &ActivityWindow::replaced, this, &frmMenu::adopt);
 }
 
 void frmMenu::activityClosed()

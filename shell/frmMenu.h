@@ -34,6 +34,8 @@ protected:
 
 private:
     void activityClosed();
+    // Follows the activity window now open, also when it was opened in another's place.
+    void adopt(ActivityWindow *window);
     void updateSoundButton();
 
     QList<ActivityEntry> m_activities;
