@@ -168,6 +168,10 @@ private slots:
                     return;
             }
         }
+        // Leaving for good: unsaved work is let go, as a pupil answering No would.
+        env.dialogs.onMessage = [](const MessageRequest &request) {
+            return request.buttons & QMessageBox::No ? QMessageBox::No : QMessageBox::Ok;
+        };
         if (window)
             window->close();
         QApplication::processEvents();
