@@ -2,6 +2,7 @@
 // The one list of the activities the menu opens.
 #include "Activities.h"
 
+#include "calendar/frmCal.h"
 #include "mathrace/frmMRace.h"
 #include "stopthief/frmThief.h"
 
@@ -24,7 +25,7 @@ QList<ActivityEntry> Activities()
         {6, QStringLiteral("Candy Drive"), {}, QStringLiteral("candy")},
         {7, QStringLiteral("Stop Thief!"), opens<frmThief>(), QStringLiteral("stopthief")},
         {8, QStringLiteral("Graphs && Charts"), {}, QStringLiteral("graphs")},
-        {9, QStringLiteral("Calendar"), {}, QStringLiteral("calendar")},
+        {9, QStringLiteral("Calendar"), opens<frmCal>(), QStringLiteral("calendar")},
         {10, QStringLiteral("US Geography"), {}, QStringLiteral("usgeography")},
         {11, QStringLiteral("US Presidents"), {}, QStringLiteral("presidents")},
         {12, QStringLiteral("Keyboarding"), {}, QStringLiteral("typing")},
