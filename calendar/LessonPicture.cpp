@@ -227,13 +227,12 @@ void LessonPicture::paintWeek(QPainter &painter, const QRectF &area, bool weeken
     painter.setPen(QColor(0x1A, 0x23, 0x7E));
     const QRectF below(area.left(), top + height, area.width(), area.bottom() - top - height);
     if (weekend) {
-        painter.drawText(below, Qt::AlignCenter,
-                         tr("weekend  -  5 weekdays  -  weekend"));
+        painter.drawText(below, Qt::AlignCenter, tr("weekend  -  5 weekdays  -  weekend"));
         return;
     }
     // The week goes round: after the last block comes the first again.
-    painter.setPen(QPen(QColor(0xC6, 0x28, 0x28), qMax(2.0, height / 20), Qt::SolidLine,
-                        Qt::RoundCap));
+    painter.setPen(
+        QPen(QColor(0xC6, 0x28, 0x28), qMax(2.0, height / 20), Qt::SolidLine, Qt::RoundCap));
     painter.setBrush(Qt::NoBrush);
     const double y = top + height + below.height() * 0.25;
     const double x1 = area.left() + width * 6.5;
@@ -246,9 +245,9 @@ void LessonPicture::paintWeek(QPainter &painter, const QRectF &area, bool weeken
     painter.drawLine(QPointF(x0, top + height + 4), QPointF(x0 - head, top + height + 4 + head));
     painter.drawLine(QPointF(x0, top + height + 4), QPointF(x0 + head, top + height + 4 + head));
     painter.setPen(QColor(0xC6, 0x28, 0x28));
-    painter.drawText(QRectF(area.left(), y + below.height() * 0.2, area.width(),
-                            below.height() * 0.45),
-                     Qt::AlignCenter, tr("and again!"));
+    painter.drawText(
+        QRectF(area.left(), y + below.height() * 0.2, area.width(), below.height() * 0.45),
+        Qt::AlignCenter, tr("and again!"));
 }
 
 void LessonPicture::paintMonths(QPainter &painter, const QRectF &area, bool lengths)
@@ -261,8 +260,9 @@ void LessonPicture::paintMonths(QPainter &painter, const QRectF &area, bool leng
         QColor colour = SeasonColours[QuestionMaker::seasonOf(m) - 1].lighter(150);
         if (lengths) {
             const int days = m_data.daysInMonth(m);
-            colour = days == 31 ? QColor(0xA5, 0xD6, 0xA7)
-                                : days == 30 ? QColor(0xFF, 0xE0, 0x82) : QColor(0xF4, 0x8F, 0xB1);
+            colour = days == 31   ? QColor(0xA5, 0xD6, 0xA7)
+                     : days == 30 ? QColor(0xFF, 0xE0, 0x82)
+                                  : QColor(0xF4, 0x8F, 0xB1);
         }
         tile(painter, box, colour);
         painter.setPen(QColor(0x1A, 0x23, 0x7E));

@@ -25,7 +25,7 @@ public:
     void setPicture(LessonPage::Picture picture, int month, int year, int today);
     LessonPage::Picture picture() const { return m_picture; }
     QSize sizeHint() const override { return {520, 360}; }
-    QSize minimumSizeHint() const override { return {260, 180}; }
+    QSize minimumSizeHint() const override { return {240, 110}; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -36,10 +36,9 @@ private:
     void paintSeasons(QPainter &painter, const QRectF &area);
     void paintLeap(QPainter &painter, const QRectF &area);
     void paintYear(QPainter &painter, const QRectF &area);
-    void paintMonth(QPainter &painter, const QRectF &area, int month, int year, int today,
-                    int row);
+    void paintMonth(QPainter &painter, const QRectF &area, int month, int year, int today, int row);
 
-    const CalendarData &m_data;
+    CalendarData m_data; // a copy, as the picture may outlive the window's own
     LessonPage::Picture m_picture = LessonPage::ThisMonth;
     int m_month = 1;
     int m_year = 2000;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "MonthPicture.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -68,12 +69,20 @@ void PaintMonth(QPainter &painter, const QRectF &area, const MonthLayout &month,
                          QPointF(grid.left() + c * columnWidth, grid.bottom()));
 
     painter.setPen(ink);
-    painter.setFont(sized(look.titleFamily, qMin(rowHeight * 0.4, columnWidth * 0.2), true));
+    // The weekday names shrink until the longest fits its column.
+    QFont heads = sized(look.titleFamily, qMin(rowHeight * 0.4, columnWidth * 0.3), true);
+    for (const QString &head : look.dayHeads)
+        while (heads.pixelSize() > 4 &&
+               QFontMetricsF(heads).horizontalAdvance(head) > columnWidth * 0.88)
+            heads.setPixelSize(heads.pixelSize() - 1);
+    painter.setFont(heads);
     for (int c = 0; c < 7 && c < look.dayHeads.size(); ++c)
         painter.drawText(QRectF(grid.left() + c * columnWidth, grid.top(), columnWidth, rowHeight),
                          Qt::AlignCenter, look.dayHeads[c]);
 
-    const QFont numbers = sized(look.numberFamily, qMin(rowHeight * 0.5, columnWidth * 0.4), true);
+    const double numberSize = look.colour ? qMin(rowHeight * 0.5, columnWidth * 0.4)
+                                          : qMin(rowHeight * 0.3, columnWidth * 0.28);
+    const QFont numbers = sized(look.numberFamily, numberSize, true);
     painter.setFont(numbers);
     for (int day = 1; day <= month.days; ++day) {
         const QRectF cell(grid.left() + (month.weekdayOf(day) - 1) * columnWidth,
@@ -83,11 +92,16 @@ void PaintMonth(QPainter &painter, const QRectF &area, const MonthLayout &month,
             painter.save();
             painter.setPen(QPen(look.colour ? QColor(0xD3, 0x2F, 0x2F) : QColor(Qt::black),
                                 qMax(1.5, size / 12)));
-            painter.drawEllipse(QRectF(cell.center().x() - size / 2, cell.center().y() - size / 2,
-                                       size, size));
+            painter.drawEllipse(
+                QRectF(cell.center().x() - size / 2, cell.center().y() - size / 2, size, size));
             painter.restore();
         }
-        painter.drawText(cell, Qt::AlignCenter, QString::number(day));
+        // On paper the number sits in the corner, leaving the box free to write in.
+        if (look.colour)
+            painter.drawText(cell, Qt::AlignCenter, QString::number(day));
+        else
+            painter.drawText(cell.adjusted(columnWidth * 0.08, rowHeight * 0.04, 0, 0),
+                             Qt::AlignLeft | Qt::AlignTop, QString::number(day));
     }
     painter.restore();
 }
@@ -111,7 +125,6 @@ void MonthPicture::paintEvent(QPaintEvent *)
     const QRectF room = QRectF(rect()).adjusted(4, 4, -4, -4);
     const double width = qMin(room.width(), room.height() * 1.5);
     const double height = qMin(room.height(), width / 1.05);
-    const QRectF area(room.center().x() - width / 2, room.center().y() - height / 2, width,
-                      height);
+    const QRectF area(room.center().x() - width / 2, room.center().y() - height / 2, width, height);
     PaintMonth(painter, area, m_month, m_look);
 }

@@ -33,7 +33,7 @@ public:
     const MonthLayout &month() const { return m_month; }
     const MonthLook &look() const { return m_look; }
     QSize sizeHint() const override { return {560, 440}; }
-    QSize minimumSizeHint() const override { return {280, 220}; }
+    QSize minimumSizeHint() const override { return {240, 150}; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;

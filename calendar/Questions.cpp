@@ -50,14 +50,14 @@ bool Question::accepts(const QString &typed) const
     return false;
 }
 
-QuestionMaker::QuestionMaker(const CalendarData &data, RandomSource &random)
+QuestionMaker::QuestionMaker(const CalendarData &data, RandomSource *random)
     : m_data(data), m_random(random)
 {
 }
 
 int QuestionMaker::draw(int n)
 {
-    return int(m_random.next() * n) + 1;
+    return int(next() * n) + 1;
 }
 
 int QuestionMaker::seasonOf(int month)
@@ -112,20 +112,18 @@ Question QuestionMaker::quiz(int kind)
 {
     if (kind <= 3) {
         const int p = draw(7);
-        return textAnswer(kind,
-                          tr("What is the ") + m_data.position(p) + tr(" day of the week?"),
+        return textAnswer(kind, tr("What is the ") + m_data.position(p) + tr(" day of the week?"),
                           day(p));
     }
     if (kind <= 6) {
         const int p = draw(12);
-        return textAnswer(kind,
-                          tr("What is the ") + m_data.position(p) + tr(" month of the year?"),
+        return textAnswer(kind, tr("What is the ") + m_data.position(p) + tr(" month of the year?"),
                           month(p));
     }
     if (kind <= 12) {
         const bool days = kind <= 9;
         const int n = draw(days ? 7 : 12);
-        const bool after = m_random.next() < 0.5;
+        const bool after = next() < 0.5;
         const int next = n + (after ? 1 : -1);
         return textAnswer(kind,
                           (days ? tr("What day comes") : tr("What month comes")) +
@@ -156,9 +154,9 @@ Question QuestionMaker::quiz(int kind)
     case 34: {
         const int season = draw(4);
         const QList<int> months = seasonMonths(season);
-        Question q = textAnswer(kind, tr("Name a month in %1.").arg(seasonName(season)),
-                                tr("%1, %2 or %3")
-                                    .arg(month(months[0]), month(months[1]), month(months[2])));
+        Question q = textAnswer(
+            kind, tr("Name a month in %1.").arg(seasonName(season)),
+            tr("%1, %2 or %3").arg(month(months[0]), month(months[1]), month(months[2])));
         q.accepted = {month(months[0]), month(months[1]), month(months[2])};
         return q;
     }
@@ -174,7 +172,7 @@ Question QuestionMaker::quiz(int kind)
                             MonthMath::daysInMonth(m_data, 2, year));
     }
     case 37: {
-        const int days = m_random.next() < 0.5 ? 30 : 31;
+        const int days = next() < 0.5 ? 30 : 31;
         int months = 0;
         for (int m = 1; m <= 12; ++m)
             months += m_data.daysInMonth(m) == days ? 1 : 0;
@@ -183,22 +181,22 @@ Question QuestionMaker::quiz(int kind)
     case 38: {
         const int d = draw(7);
         const int later = draw(5) + 1;
-        return textAnswer(kind,
-                          tr("If today is %1, what day will it be in %2 days?").arg(day(d)).arg(later),
-                          day(d + later));
+        return textAnswer(
+            kind, tr("If today is %1, what day will it be in %2 days?").arg(day(d)).arg(later),
+            day(d + later));
     }
     case 39: {
         const int m = draw(12);
         const int later = draw(5) + 1;
         return textAnswer(
-            kind, tr("If this month is %1, what month will it be in %2 months?").arg(month(m)).arg(later),
+            kind,
+            tr("If this month is %1, what month will it be in %2 months?").arg(month(m)).arg(later),
             month(m + later));
     }
     default: {
         const int m = draw(11) + 1;
-        return numberAnswer(kind,
-                            tr("%1 is month number 1. What number is %2?").arg(month(1), month(m)),
-                            m);
+        return numberAnswer(
+            kind, tr("%1 is month number 1. What number is %2?").arg(month(1), month(m)), m);
     }
     }
 }
@@ -242,9 +240,9 @@ Question QuestionMaker::reading(int kind, const MonthLayout &shown)
         } else {
             date += 7 * (p - 1);
         }
-        q = numberAnswer(kind,
-                         tr("What is the date of the %1 %2 in %3?").arg(m_data.position(p), day(w), name),
-                         date);
+        q = numberAnswer(
+            kind, tr("What is the date of the %1 %2 in %3?").arg(m_data.position(p), day(w), name),
+            date);
         q.dateWord = name;
         break;
     }
@@ -262,7 +260,8 @@ Question QuestionMaker::reading(int kind, const MonthLayout &shown)
         break;
     case 7: {
         const int d = draw(shown.days - 7);
-        q = numberAnswer(kind, tr("What is the date one week after %1 %2?").arg(name).arg(d), d + 7);
+        q = numberAnswer(kind, tr("What is the date one week after %1 %2?").arg(name).arg(d),
+                         d + 7);
         q.dateWord = name;
         break;
     }
@@ -272,9 +271,9 @@ Question QuestionMaker::reading(int kind, const MonthLayout &shown)
         break;
     default: {
         const int d = draw(CalendarData::Positions - 1);
-        q = textAnswer(kind,
-                       tr("What day of the week is the %1 day of %2?").arg(m_data.position(d), name),
-                       day(shown.weekdayOf(d)));
+        q = textAnswer(
+            kind, tr("What day of the week is the %1 day of %2?").arg(m_data.position(d), name),
+            day(shown.weekdayOf(d)));
         break;
     }
     }

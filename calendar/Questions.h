@@ -31,7 +31,8 @@ public:
     static constexpr int QuizKinds = 40;
     static constexpr int ReadingKinds = 9;
 
-    explicit QuestionMaker(const CalendarData &data, RandomSource &random = CurrentRandomSource());
+    // Without a source of its own it draws from the process-wide one of the moment.
+    explicit QuestionMaker(const CalendarData &data, RandomSource *random = nullptr);
 
     Question quiz(int kind);
     Question randomQuiz();
@@ -44,6 +45,7 @@ public:
     static QList<int> seasonMonths(int season);
 
 private:
+    double next() { return (m_random ? *m_random : CurrentRandomSource()).next(); }
     int draw(int n);
     Question textAnswer(int kind, const QString &text, const QString &answer,
                         QStringList accepted = {});
@@ -52,7 +54,7 @@ private:
     QString month(int month) const { return m_data.monthName((month - 1 + 1200) % 12 + 1); }
 
     const CalendarData &m_data;
-    RandomSource &m_random;
+    RandomSource *m_random;
 };
 
 // A round of questions with a running score: two tries per question, then the answer is shown.

@@ -18,7 +18,6 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -65,33 +64,36 @@ QLabel *makeLabel(const QString &name, QWidget *parent, const char *colour = "#1
 // December or January, as a wall calendar does.
 class MonthSpin : public QSpinBox {
 public:
-    MonthSpin(const CalendarData &data, QWidget *parent) : QSpinBox(parent), m_data(data)
+    MonthSpin(const CalendarData &data, QWidget *parent) : QSpinBox(parent)
     {
+        // Its own copy: the spin box may still be asked for text while the window is torn down.
+        for (int m = 1; m <= 12; ++m)
+            m_names.append(data.monthName(m));
         setRange(1, 12);
         setWrapping(true);
     }
-    std::function<void(int)> yearTurned;
+    // Turns the year by one; false at the first or last year, where the month stops too.
+    std::function<bool(int)> yearTurned;
     void stepBy(int steps) override
     {
         const int target = value() + steps;
-        if (yearTurned && (target > 12 || target < 1))
-            yearTurned(target > 12 ? 1 : -1);
+        if (yearTurned && (target > 12 || target < 1) && !yearTurned(target > 12 ? 1 : -1))
+            return;
         QSpinBox::stepBy(steps);
     }
 
 protected:
-    QString textFromValue(int value) const override { return m_data.monthName(value); }
+    QString textFromValue(int value) const override { return m_names.value(value - 1); }
     int valueFromText(const QString &text) const override
     {
         for (int m = 1; m <= 12; ++m)
-            if (m_data.monthName(m).compare(text.trimmed(), Qt::CaseInsensitive) == 0)
+            if (m_names[m - 1].compare(text.trimmed(), Qt::CaseInsensitive) == 0)
                 return m;
         return value();
     }
     QValidator::State validate(QString &text, int &) const override
     {
-        for (int m = 1; m <= 12; ++m) {
-            const QString name = m_data.monthName(m);
+        for (const QString &name : m_names) {
             if (name.compare(text.trimmed(), Qt::CaseInsensitive) == 0)
                 return QValidator::Acceptable;
             if (name.startsWith(text.trimmed(), Qt::CaseInsensitive))
@@ -101,7 +103,7 @@ protected:
     }
 
 private:
-    const CalendarData &m_data;
+    QStringList m_names;
 };
 
 } // namespace
@@ -163,7 +165,8 @@ void frmCal::buildControls()
     spnMonth = Named(monthSpin, QStringLiteral("spnMonth"));
     spnMonth->setAccessibleName(tr("Month"));
     spnMonth->setFont(font());
-    spnMonth->setMinimumWidth(spnMonth->fontMetrics().horizontalAdvance(QStringLiteral("September")) + 50);
+    spnMonth->setMinimumWidth(
+        spnMonth->fontMetrics().horizontalAdvance(QStringLiteral("September")) + 50);
     auto *monthLabel = new QLabel(tr("&Month:"), calendarColumn);
     monthLabel->setBuddy(spnMonth);
     hsbYear = Named(new QScrollBar(Qt::Horizontal, calendarColumn), QStringLiteral("hsbYear"));
@@ -182,21 +185,27 @@ void frmCal::buildControls()
     cmdPrint = makeButton(tr("Prin&t"), QStringLiteral("cmdPrint"), "#5D4037", calendarColumn);
     cmdPrint->setAccessibleName(tr("Print the calendar"));
     auto *controls = new QGridLayout;
+    controls->setVerticalSpacing(4);
     controls->addWidget(monthLabel, 0, 0);
-    controls->addWidget(spnMonth, 0, 1);
-    controls->addWidget(yearLabel, 0, 2);
-    controls->addWidget(lblYear, 0, 3);
-    controls->addWidget(hsbYear, 0, 4);
-    controls->addWidget(cmdPrint, 0, 5);
-    controls->setColumnStretch(4, 1);
+    controls->addWidget(spnMonth, 0, 1, 1, 2);
+    controls->addWidget(cmdPrint, 0, 3);
+    controls->addWidget(yearLabel, 1, 0);
+    controls->addWidget(lblYear, 1, 1);
+    controls->addWidget(hsbYear, 1, 2, 1, 2);
+    controls->setColumnStretch(2, 1);
     auto *calendarLayout = new QVBoxLayout(calendarColumn);
     calendarLayout->setContentsMargins(0, 0, 0, 0);
     calendarLayout->addWidget(picCalendar, 1);
     calendarLayout->addLayout(controls);
 
     monthSpin->yearTurned = [this](int delta) {
-        if (hsbYear->isEnabled())
-            hsbYear->setValue(hsbYear->value() + delta);
+        const int year = hsbYear->value() + delta;
+        if (!hsbYear->isEnabled() || year < hsbYear->minimum() || year > hsbYear->maximum())
+            return false;
+        // The month changes right after, so the display is redrawn once, with both.
+        const QSignalBlocker quiet(hsbYear);
+        hsbYear->setValue(year);
+        return true;
     };
     connect(spnMonth, &QSpinBox::valueChanged, this, [this] { refreshMonth(); });
     connect(hsbYear, &QScrollBar::valueChanged, this, [this] { refreshMonth(); });
@@ -209,7 +218,8 @@ void frmCal::buildControls()
     picLesson->setAccessibleName(tr("Lesson picture"));
     lblPage = makeLabel(QStringLiteral("lblPage"), fraParts, "#455A64");
     lblPage->setWordWrap(false);
-    cmdStartReview = makeButton(tr("&Start Review"), QStringLiteral("cmdStartReview"), "#6A1B9A", fraParts);
+    cmdStartReview =
+        makeButton(tr("&Start Review"), QStringLiteral("cmdStartReview"), "#6A1B9A", fraParts);
     cmdBack = makeButton(tr("&Back"), QStringLiteral("cmdBack"), "#546E7A", fraParts);
     cmdNext = makeButton(tr("&Next"), QStringLiteral("cmdNext"), "#2E7D32", fraParts);
     cmdStartReview->setAccessibleName(tr("Start Review"));
@@ -218,11 +228,14 @@ void frmCal::buildControls()
     auto *lessonButtons = new QHBoxLayout;
     lessonButtons->addWidget(cmdStartReview);
     lessonButtons->addStretch();
-    lessonButtons->addWidget(lblPage);
     lessonButtons->addWidget(cmdBack);
     lessonButtons->addWidget(cmdNext);
+    auto *titleRow = new QHBoxLayout;
+    titleRow->addWidget(lblLessonTitle, 1);
+    titleRow->addWidget(lblPage, 0, Qt::AlignRight | Qt::AlignTop);
     auto *partsLayout = new QVBoxLayout(fraParts);
-    partsLayout->addWidget(lblLessonTitle);
+    partsLayout->setSpacing(4);
+    partsLayout->addLayout(titleRow);
     partsLayout->addWidget(lblLesson);
     partsLayout->addWidget(picLesson, 1);
     partsLayout->addLayout(lessonButtons);
@@ -240,8 +253,8 @@ void frmCal::buildControls()
     lblScore = m_quiz.score;
     lblVerdict = m_quiz.verdict;
     fraReading = buildQuizPanel(tr("Reading a Calendar"), QStringLiteral("fraReading"),
-                                tr("Pick a month, then press Start Quiz. The ten questions are "
-                                   "about the month on the calendar."),
+                                tr("Pick a month, then press Start Quiz to answer ten questions "
+                                   "about it."),
                                 m_reading, QStringLiteral("txtAnswer"));
     lblRQuestion = m_reading.question;
     txtAnswer = m_reading.answer;
@@ -255,20 +268,19 @@ void frmCal::buildControls()
 
     fraDisplay = makeFrame(tr("Display"), QStringLiteral("fraDisplay"), this);
     lblDisplay = makeLabel(QStringLiteral("lblDisplay"), fraDisplay);
-    lblDisplay->setText(tr("Choose a month and a year to see its calendar.\n\nThe arrows of "
-                           "Month go from month to month. The Year bar goes from 1583 to 2199: "
-                           "its arrows move one year, a click beside its slider ten.\n\nToday "
-                           "has a red ring. Weekends are blue.\n\nPress Print to print the "
-                           "month."));
+    lblDisplay->setText(tr("Choose a month and a year to see its calendar.\n\nToday has a red "
+                           "ring. Weekends are blue.\n\nPress Print to print the month."));
     auto *displayLayout = new QVBoxLayout(fraDisplay);
     displayLayout->addWidget(lblDisplay);
     displayLayout->addStretch();
 
-    pnlPanels = Named(new QStackedWidget(this), QStringLiteral("pnlPanels"));
-    pnlPanels->addWidget(fraParts);
-    pnlPanels->addWidget(fraQuiz);
-    pnlPanels->addWidget(fraReading);
-    pnlPanels->addWidget(fraDisplay);
+    // Only the chosen part is shown, and only it counts for the window's smallest size.
+    pnlPanels = Named(new QWidget(this), QStringLiteral("pnlPanels"));
+    auto *panels = new QVBoxLayout(pnlPanels);
+    panels->setContentsMargins(0, 0, 0, 0);
+    for (QWidget *panel : {static_cast<QWidget *>(fraParts), static_cast<QWidget *>(fraQuiz),
+                           static_cast<QWidget *>(fraReading), static_cast<QWidget *>(fraDisplay)})
+        panels->addWidget(panel);
 
     auto *main = new QHBoxLayout;
     main->setSpacing(14);
@@ -276,8 +288,8 @@ void frmCal::buildControls()
     main->addWidget(pnlPanels, 2);
 
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(14, 12, 14, 12);
-    layout->setSpacing(10);
+    layout->setContentsMargins(12, 8, 12, 8);
+    layout->setSpacing(6);
     layout->addLayout(top);
     layout->addLayout(main, 1);
 
@@ -299,6 +311,7 @@ QGroupBox *frmCal::buildQuizPanel(const QString &title, const QString &name, con
     panel.answer->setAccessibleName(tr("Answer"));
     panel.answer->setEnabled(false);
     auto *answerLabel = new QLabel(tr("&Answer:"), frame);
+    answerLabel->setFont(font());
     answerLabel->setBuddy(panel.answer);
     panel.start = makeButton(tr("&Start Quiz"), QStringLiteral("cmdStartQuiz"), "#1565C0", frame);
     panel.start->setAccessibleName(tr("Start Quiz"));
@@ -310,9 +323,13 @@ QGroupBox *frmCal::buildQuizPanel(const QString &title, const QString &name, con
     answerRow->addWidget(answerLabel);
     answerRow->addWidget(panel.answer, 1);
     auto *frameLayout = new QVBoxLayout(frame);
-    frameLayout->addWidget(panel.question, 3);
+    frameLayout->setSpacing(4);
+    frameLayout->addWidget(panel.question);
+    frameLayout->addSpacing(8);
     frameLayout->addLayout(answerRow);
-    frameLayout->addWidget(panel.verdict, 1);
+    frameLayout->addSpacing(8);
+    frameLayout->addWidget(panel.verdict);
+    frameLayout->addStretch(1);
     frameLayout->addWidget(panel.score);
     frameLayout->addWidget(panel.start);
     connect(panel.start, &QPushButton::clicked, this, &frmCal::startRound);
@@ -347,7 +364,7 @@ void frmCal::resizeEvent(QResizeEvent *event)
 // and shrinks on a small screen.
 void frmCal::sizeType()
 {
-    const int pixels = qBound(15, height() / 26, 44);
+    const int pixels = qBound(12, height() / 26, 44);
     for (QLabel *label : {m_quiz.question, m_reading.question, lblLesson}) {
         QFont type = label->font();
         type.setPixelSize(label == lblLesson ? pixels : pixels * 6 / 5);
@@ -404,9 +421,12 @@ void frmCal::setMode(Mode mode)
     if (m_running)
         endRound(true);
     m_mode = mode;
-    pnlPanels->setCurrentIndex(mode);
+    const QList<QWidget *> panels{fraParts, fraQuiz, fraReading, fraDisplay};
+    for (int i = 0; i < panels.size(); ++i)
+        panels[i]->setVisible(i == mode);
     // The quiz would give its answers away beside a month, and the lesson brings its own.
-    findChild<QWidget *>(QStringLiteral("fraCalendar"))->setVisible(mode == Reading || mode == Display);
+    findChild<QWidget *>(QStringLiteral("fraCalendar"))
+        ->setVisible(mode == Reading || mode == Display);
     switch (mode) {
     case Parts:
         m_page = -1;
@@ -444,12 +464,19 @@ void frmCal::showLessonPage(int page)
                           m_today.day());
     picLesson->setAccessibleDescription(shown.title);
     lblPage->setText(tr("Page %1 of %2").arg(page + 1).arg(m_pages.size()));
-    cmdBack->setEnabled(page > 0);
-    cmdNext->setEnabled(page + 1 < m_pages.size());
-    if (!cmdNext->isEnabled() && cmdNext->hasFocus())
+    // Disabling the focused button would send the focus elsewhere, so move it first.
+    const bool atEnd = page + 1 >= m_pages.size();
+    const bool backFocus = atEnd && (cmdNext->hasFocus() || cmdStartReview->hasFocus());
+    const bool nextFocus =
+        !atEnd && (page == 0 || cmdStartReview->hasFocus() || cmdBack->hasFocus());
+    cmdBack->setEnabled(true);
+    cmdNext->setEnabled(true);
+    if (backFocus)
         cmdBack->setFocus();
-    else if (cmdStartReview->hasFocus() || (!cmdBack->isEnabled() && cmdBack->hasFocus()))
+    if (nextFocus && (page == 0 || !cmdBack->hasFocus() || cmdStartReview->hasFocus()))
         cmdNext->setFocus();
+    cmdBack->setEnabled(page > 0);
+    cmdNext->setEnabled(!atEnd);
 }
 
 frmCal::QuizPanel &frmCal::activePanel()
@@ -555,8 +582,8 @@ void frmCal::endRound(bool stopped)
         const int right = m_round.right();
         message = tr("You got %1 right out of %2!").arg(right).arg(QuizRound::Length) + u'\n' +
                   (right == QuizRound::Length ? tr("Perfect! You are a calendar expert!")
-                   : right >= 7                ? tr("Great work!")
-                                               : tr("Keep practicing and try again."));
+                   : right >= 7               ? tr("Great work!")
+                                              : tr("Keep practicing and try again."));
         PlaySound(right >= 7 ? m_tadaSound : m_dingSound, SND_ASYNC);
     }
     panel.question->setText(message);
@@ -587,8 +614,8 @@ void frmCal::cmdExit_Click()
 void frmCal::cmdPrint_Click()
 {
     const QString title = tr("Print Calendar");
-    if (MsgBox(this, title, tr("Make sure printer is on-line and ready."),
-               QMessageBox::Information, QMessageBox::Ok | QMessageBox::Cancel) != QMessageBox::Ok)
+    if (MsgBox(this, title, tr("Make sure printer is on-line and ready."), QMessageBox::Information,
+               QMessageBox::Ok | QMessageBox::Cancel) != QMessageBox::Ok)
         return;
     PrintWithPreview(this, CalendarPrint::document(m_data, m_layout));
 }

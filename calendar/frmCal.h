@@ -19,7 +19,6 @@ class QLineEdit;
 class QPushButton;
 class QScrollBar;
 class QSpinBox;
-class QStackedWidget;
 
 // The calendar window: a lesson on the parts of a calendar, a quiz of calendar questions,
 // questions read off the month on display, any month from 1583 to 2199, and printing.
@@ -50,7 +49,7 @@ public:
     QPushButton *cmdPrint;
     QPushButton *cmdHelp;
     QPushButton *cmdExit;
-    QStackedWidget *pnlPanels;
+    QWidget *pnlPanels;
 
     QGroupBox *fraParts;
     QLabel *lblLessonTitle;

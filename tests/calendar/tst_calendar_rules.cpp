@@ -14,16 +14,14 @@
 
 namespace {
 
-const QStringList Ordinals{QStringLiteral("last"),       QStringLiteral("first"),
-                           QStringLiteral("second"),     QStringLiteral("third"),
-                           QStringLiteral("fourth"),     QStringLiteral("fifth"),
-                           QStringLiteral("sixth"),      QStringLiteral("seventh"),
-                           QStringLiteral("eighth"),     QStringLiteral("ninth"),
-                           QStringLiteral("tenth"),      QStringLiteral("eleventh"),
-                           QStringLiteral("twelfth"),    QStringLiteral("thirteenth"),
-                           QStringLiteral("fourteenth"), QStringLiteral("fifteenth"),
-                           QStringLiteral("sixteenth"),  QStringLiteral("seventeenth"),
-                           QStringLiteral("eighteenth")};
+const QStringList Ordinals{
+    QStringLiteral("last"),      QStringLiteral("first"),      QStringLiteral("second"),
+    QStringLiteral("third"),     QStringLiteral("fourth"),     QStringLiteral("fifth"),
+    QStringLiteral("sixth"),     QStringLiteral("seventh"),    QStringLiteral("eighth"),
+    QStringLiteral("ninth"),     QStringLiteral("tenth"),      QStringLiteral("eleventh"),
+    QStringLiteral("twelfth"),   QStringLiteral("thirteenth"), QStringLiteral("fourteenth"),
+    QStringLiteral("fifteenth"), QStringLiteral("sixteenth"),  QStringLiteral("seventeenth"),
+    QStringLiteral("eighteenth")};
 
 // Names straight from Qt, so the checks do not lean on the file under test.
 QString dayOf(const QDate &date)
@@ -88,14 +86,13 @@ QStringList expectedQuiz(const QString &text)
         return {QString::number(QDate(m.captured(1).toInt(), 2, 1).daysInMonth())};
     if (is("^\\nHow many (\\w+) are in (a|a normal|a leap) (week|year|weekend)\\?$")) {
         const QString what = m.captured(1) + u' ' + m.captured(2) + u' ' + m.captured(3);
-        const QMap<QString, int> facts{{QStringLiteral("days a week"), 7},
-                                       {QStringLiteral("months a year"), 12},
-                                       {QStringLiteral("weeks a year"), 52},
-                                       {QStringLiteral("days a weekend"), 2},
-                                       {QStringLiteral("days a normal year"),
-                                        QDate(2023, 1, 1).daysInYear()},
-                                       {QStringLiteral("days a leap year"),
-                                        QDate(2024, 1, 1).daysInYear()}};
+        const QMap<QString, int> facts{
+            {QStringLiteral("days a week"), 7},
+            {QStringLiteral("months a year"), 12},
+            {QStringLiteral("weeks a year"), 52},
+            {QStringLiteral("days a weekend"), 2},
+            {QStringLiteral("days a normal year"), QDate(2023, 1, 1).daysInYear()},
+            {QStringLiteral("days a leap year"), QDate(2024, 1, 1).daysInYear()}};
         return {QString::number(facts.value(what, -1))};
     }
     if (is("^\\nIn which season is (\\w+)\\?$"))
@@ -365,14 +362,15 @@ void tst_calendar_rules::startMonthAndYear()
 void tst_calendar_rules::everyQuizKindIsAnsweredRightly()
 {
     Generator random(7);
-    QuestionMaker maker(m_data, random);
+    QuestionMaker maker(m_data, &random);
     for (int kind = 1; kind <= QuestionMaker::QuizKinds; ++kind) {
         QSet<QString> texts;
         for (int draw = 0; draw < 60; ++draw) {
             const Question q = maker.quiz(kind);
             texts.insert(q.text);
             const QStringList expected = expectedQuiz(q.text);
-            QVERIFY2(!expected.isEmpty(), qPrintable(QStringLiteral("kind %1: %2").arg(kind).arg(q.text)));
+            QVERIFY2(!expected.isEmpty(),
+                     qPrintable(QStringLiteral("kind %1: %2").arg(kind).arg(q.text)));
             for (const QString &answer : expected)
                 QVERIFY2(q.accepts(answer), qPrintable(q.text + u' ' + answer));
             if (expected.size() == 1)
@@ -391,20 +389,25 @@ void tst_calendar_rules::wrapAround_data()
     QTest::addColumn<QList<double>>("draws");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("answer");
-    QTest::newRow("after Saturday") << 7 << QList<double>{0.99, 0.2}
-                                    << "\nWhat day comes after Saturday?" << "Sunday";
-    QTest::newRow("before Sunday") << 8 << QList<double>{0.0, 0.7}
-                                   << "\nWhat day comes before Sunday?" << "Saturday";
-    QTest::newRow("after December") << 10 << QList<double>{0.99, 0.49}
-                                    << "\nWhat month comes after December?" << "January";
-    QTest::newRow("before January") << 12 << QList<double>{0.0, 0.5}
-                                    << "\nWhat month comes before January?" << "December";
-    QTest::newRow("Friday and 6 days") << 38 << QList<double>{0.8, 0.99}
-                                       << "\nIf today is Friday, what day will it be in 6 days?"
-                                       << "Thursday";
+    QTest::newRow("after Saturday")
+        << 7 << QList<double>{0.99, 0.2} << "\nWhat day comes after Saturday?"
+        << "Sunday";
+    QTest::newRow("before Sunday")
+        << 8 << QList<double>{0.0, 0.7} << "\nWhat day comes before Sunday?"
+        << "Saturday";
+    QTest::newRow("after December")
+        << 10 << QList<double>{0.99, 0.49} << "\nWhat month comes after December?"
+        << "January";
+    QTest::newRow("before January")
+        << 12 << QList<double>{0.0, 0.5} << "\nWhat month comes before January?"
+        << "December";
+    QTest::newRow("Friday and 6 days")
+        << 38 << QList<double>{0.8, 0.99} << "\nIf today is Friday, what day will it be in 6 days?"
+        << "Thursday";
     QTest::newRow("November and 3 months")
         << 39 << QList<double>{0.86, 0.3}
-        << "\nIf this month is November, what month will it be in 3 months?" << "February";
+        << "\nIf this month is November, what month will it be in 3 months?"
+        << "February";
 }
 
 void tst_calendar_rules::wrapAround()
@@ -415,7 +418,7 @@ void tst_calendar_rules::wrapAround()
     QFETCH(QString, answer);
     ScriptedRandom random;
     random.values = draws;
-    QuestionMaker maker(m_data, random);
+    QuestionMaker maker(m_data, &random);
     const Question q = maker.quiz(kind);
     QCOMPARE(q.text, text);
     QCOMPARE(q.answer, answer);
@@ -425,7 +428,7 @@ void tst_calendar_rules::wrapAround()
 void tst_calendar_rules::quizTextsAsWorded()
 {
     ScriptedRandom random;
-    QuestionMaker maker(m_data, random);
+    QuestionMaker maker(m_data, &random);
     random.values = {0.0};
     QCOMPARE(maker.quiz(1).text, QStringLiteral("\nWhat is the first day of the week?"));
     random.values = {0.99};
@@ -446,7 +449,7 @@ void tst_calendar_rules::quizTextsAsWorded()
 void tst_calendar_rules::everyReadingKindIsAnsweredRightly()
 {
     Generator random(11);
-    QuestionMaker maker(m_data, random);
+    QuestionMaker maker(m_data, &random);
     for (int trial = 0; trial < 150; ++trial) {
         const int year = 1901 + int(random.next() * 199);
         const int month = 1 + int(random.next() * 12);
@@ -521,7 +524,7 @@ void tst_calendar_rules::answersAreLenient()
 void tst_calendar_rules::roundKeepsScore()
 {
     Generator random(3);
-    QuestionMaker maker(m_data, random);
+    QuestionMaker maker(m_data, &random);
     QuizRound round;
     round.start();
     QCOMPARE(round.submit(QStringLiteral("Sunday")), QuizRound::Outcome::Missed);
