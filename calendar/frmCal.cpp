@@ -184,15 +184,19 @@ void frmCal::buildControls()
     lblYear->setMinimumWidth(lblYear->fontMetrics().horizontalAdvance(QStringLiteral("0000")) + 8);
     cmdPrint = makeButton(tr("Prin&t"), QStringLiteral("cmdPrint"), "#5D4037", calendarColumn);
     cmdPrint->setAccessibleName(tr("Print the calendar"));
-    auto *controls = new QGridLayout;
-    controls->setVerticalSpacing(4);
-    controls->addWidget(monthLabel, 0, 0);
-    controls->addWidget(spnMonth, 0, 1, 1, 2);
-    controls->addWidget(cmdPrint, 0, 3);
-    controls->addWidget(yearLabel, 1, 0);
-    controls->addWidget(lblYear, 1, 1);
-    controls->addWidget(hsbYear, 1, 2, 1, 2);
-    controls->setColumnStretch(2, 1);
+    auto *monthRow = new QHBoxLayout;
+    monthRow->addWidget(monthLabel);
+    monthRow->addWidget(spnMonth);
+    monthRow->addStretch();
+    monthRow->addWidget(cmdPrint);
+    auto *yearRow = new QHBoxLayout;
+    yearRow->addWidget(yearLabel);
+    yearRow->addWidget(lblYear);
+    yearRow->addWidget(hsbYear, 1);
+    auto *controls = new QVBoxLayout;
+    controls->setSpacing(4);
+    controls->addLayout(monthRow);
+    controls->addLayout(yearRow);
     auto *calendarLayout = new QVBoxLayout(calendarColumn);
     calendarLayout->setContentsMargins(0, 0, 0, 0);
     calendarLayout->addWidget(picCalendar, 1);
@@ -322,14 +326,16 @@ QGroupBox *frmCal::buildQuizPanel(const QString &title, const QString &name, con
     auto *answerRow = new QHBoxLayout;
     answerRow->addWidget(answerLabel);
     answerRow->addWidget(panel.answer, 1);
+    answerRow->addStretch(0);
     auto *frameLayout = new QVBoxLayout(frame);
     frameLayout->setSpacing(4);
+    frameLayout->addStretch(1);
     frameLayout->addWidget(panel.question);
     frameLayout->addSpacing(8);
     frameLayout->addLayout(answerRow);
     frameLayout->addSpacing(8);
     frameLayout->addWidget(panel.verdict);
-    frameLayout->addStretch(1);
+    frameLayout->addStretch(2);
     frameLayout->addWidget(panel.score);
     frameLayout->addWidget(panel.start);
     connect(panel.start, &QPushButton::clicked, this, &frmCal::startRound);
@@ -379,6 +385,16 @@ void frmCal::sizeType()
         QFont type = box->font();
         type.setPixelSize(pixels * 6 / 5);
         box->setFont(type);
+        // Room for the longest answer, "September", and not a whole screen's width.
+        box->setMaximumWidth(
+            QFontMetrics(type).horizontalAdvance(QStringLiteral("September 30th")) + 24);
+    }
+    for (QLabel *label : {m_quiz.verdict, m_reading.verdict, m_quiz.score, m_reading.score}) {
+        QFont type = label->font();
+        type.setPixelSize(label == m_quiz.verdict || label == m_reading.verdict ? pixels
+                                                                                : pixels * 4 / 5);
+        type.setBold(true);
+        label->setFont(type);
     }
 }
 
