@@ -370,7 +370,7 @@ void frmCal::resizeEvent(QResizeEvent *event)
 // and shrinks on a small screen.
 void frmCal::sizeType()
 {
-    const int pixels = qBound(12, height() / 26, 44);
+    const int pixels = qBound(14, height() / 26, 44);
     for (QLabel *label : {m_quiz.question, m_reading.question, lblLesson}) {
         QFont type = label->font();
         type.setPixelSize(label == lblLesson ? pixels : pixels * 6 / 5);
@@ -541,11 +541,16 @@ void frmCal::submitAnswer()
     const QuizRound::Outcome outcome = m_round.submit(panel.answer->text());
     QString verdict;
     switch (outcome) {
-    case QuizRound::Outcome::Right:
+    case QuizRound::Outcome::Right: {
         PlaySound(m_tadaSound, SND_ASYNC);
-        verdict = tr("Right! %1 is correct.").arg(m_round.question().answer);
+        const Question &asked = m_round.question();
+        // A question with several right answers has no one answer to repeat.
+        verdict = asked.numeric || asked.accepted.value(0) == asked.answer
+                      ? tr("Right! %1 is correct.").arg(asked.answer)
+                      : tr("Right! Well done!");
         panel.verdict->setStyleSheet(QStringLiteral("color: #2E7D32;"));
         break;
+    }
     case QuizRound::Outcome::TryAgain:
         PlaySound(m_uhOhSound, SND_ASYNC);
         verdict = tr("Not quite. Try again!");

@@ -107,6 +107,15 @@ QList<Scene> calendarScenes()
              emit window->txtAnswer->returnPressed();
              return window;
          }},
+        // The smallest screen the window must fit: 1366 x 768 at 200 %.
+        {QStringLiteral("calendar-reading-small"),
+         [] {
+             frmCal *window = CalendarAt(8, 2026);
+             window->cmdMenu[frmCal::Reading]->click();
+             window->cmdStartReading->click();
+             return window;
+         },
+         QSize(683, 384)},
         {QStringLiteral("calendar-printed"),
          [] {
              frmCal *window = CalendarAt(9, 2026);
