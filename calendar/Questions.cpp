@@ -4,6 +4,7 @@
 #include "shell/core/SoundCode.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QRegularExpression>
 
 namespace {
@@ -23,6 +24,58 @@ QString plain(const QString &typed)
     return text.trimmed();
 }
 
+// A number written in words, as young pupils often type it: "seven", "twenty-eight", "three
+// hundred sixty-five", or a date's "twelfth"; -1 when the text is not such a number.
+int numberFromWords(const QString &text)
+{
+    static const QHash<QString, int> small = [] {
+        QHash<QString, int> words;
+        const QStringList ones =
+            QStringLiteral(
+                "zero one two three four five six seven eight nine ten eleven twelve thirteen "
+                "fourteen fifteen sixteen seventeen eighteen nineteen")
+                .split(u' ');
+        const QStringList nths =
+            QStringLiteral(
+                "zeroth first second third fourth fifth sixth seventh eighth ninth tenth eleventh "
+                "twelfth thirteenth fourteenth fifteenth sixteenth seventeenth eighteenth "
+                "nineteenth")
+                .split(u' ');
+        const QStringList tens =
+            QStringLiteral("twenty thirty forty fifty sixty seventy eighty ninety").split(u' ');
+        const QStringList tenths = QStringLiteral("twentieth thirtieth fortieth fiftieth "
+                                                  "sixtieth seventieth eightieth ninetieth")
+                                       .split(u' ');
+        for (int n = 0; n < 20; ++n)
+            words.insert(ones[n], n), words.insert(nths[n], n);
+        for (int n = 0; n < 8; ++n)
+            words.insert(tens[n], 20 + 10 * n), words.insert(tenths[n], 20 + 10 * n);
+        return words;
+    }();
+    static const QRegularExpression gaps(QStringLiteral("[\\s-]+"));
+    int total = 0;
+    int part = 0;
+    bool any = false;
+    for (const QString &word : text.split(gaps, Qt::SkipEmptyParts)) {
+        if (word == u"and")
+            continue;
+        if (word == u"hundred" || word == u"hundredth") {
+            part = (part == 0 ? 1 : part) * 100;
+            total += part;
+            part = 0;
+        } else if (small.contains(word)) {
+            part += small.value(word);
+        } else {
+            return -1;
+        }
+        // No calendar answer is this large, and stopping here keeps the sum from overflowing.
+        if (total + part > 100000)
+            return -1;
+        any = true;
+    }
+    return any ? total + part : -1;
+}
+
 } // namespace
 
 bool Question::accepts(const QString &typed) const
@@ -35,7 +88,9 @@ bool Question::accepts(const QString &typed) const
             text = text.mid(dateWord.size()).trimmed();
         static const QRegularExpression pattern(QStringLiteral("^(\\d{1,9})(st|nd|rd|th)?$"));
         const auto match = pattern.match(text);
-        return match.hasMatch() && match.captured(1).toLongLong() == number;
+        if (match.hasMatch())
+            return match.captured(1).toLongLong() == number;
+        return numberFromWords(text) == number;
     }
     for (const QString &answer : accepted)
         if (plain(answer) == text)

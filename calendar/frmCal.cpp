@@ -529,6 +529,7 @@ void frmCal::askNext()
     panel.answer->clear();
     panel.answer->setEnabled(true);
     panel.answer->setFocus();
+    Announce(panel.question, next.text.trimmed());
     updateScore();
     PlaySound(m_dingSound, SND_ASYNC);
 }

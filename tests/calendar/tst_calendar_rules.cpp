@@ -430,6 +430,11 @@ void tst_calendar_rules::answersAreLenient_data()
         {"with the month", "#12", "May 12", true},
         {"another month", "#12", "June 12", false},
         {"sounds like a number", "#12", "13", false},
+        {"in words", "#28", "Twenty-eight", true},
+        {"long words", "#365", "three hundred and sixty five", true},
+        {"ordinal word", "#12", "May twelfth", true},
+        {"wrong words", "#12", "twenty", false},
+        {"not a number word", "#12", "twelve apples", false},
         {"huge", "#12", "999999999999999999999", false},
         {"minus", "#12", "-12", false},
     };
