@@ -347,6 +347,7 @@ void QuizRound::start()
     m_asked = 0;
     m_right = 0;
     m_tries = 0;
+    m_results.clear();
 }
 
 void QuizRound::ask(const Question &question)
@@ -364,10 +365,12 @@ QuizRound::Outcome QuizRound::submit(const QString &typed)
     if (m_question.accepts(typed)) {
         m_waiting = false;
         ++m_right;
+        m_results.append(true);
         return Outcome::Right;
     }
     if (++m_tries < Tries)
         return Outcome::TryAgain;
     m_waiting = false;
+    m_results.append(false);
     return Outcome::Missed;
 }

@@ -72,6 +72,8 @@ public:
     bool waitingForAnswer() const { return m_waiting; }
     int asked() const { return m_asked; }
     int right() const { return m_right; }
+    // Whether each question settled so far was answered right, in order.
+    const QList<bool> &results() const { return m_results; }
     bool isOver() const { return m_asked >= Length && !m_waiting; }
 
 private:
@@ -80,4 +82,5 @@ private:
     int m_asked = 0;
     int m_right = 0;
     int m_tries = 0;
+    QList<bool> m_results;
 };

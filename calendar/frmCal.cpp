@@ -4,6 +4,7 @@
 #include "CalendarPrint.h"
 #include "LessonPicture.h"
 #include "MonthPicture.h"
+#include "ScoreDots.h"
 
 #include "shell/core/DataPath.h"
 #include "shell/Services.h"
@@ -256,10 +257,10 @@ void frmCal::buildControls()
     cmdStartQuiz = m_quiz.start;
     lblScore = m_quiz.score;
     lblVerdict = m_quiz.verdict;
-    fraReading = buildQuizPanel(tr("Reading a Calendar"), QStringLiteral("fraReading"),
-                                tr("Pick a month, then press Start Quiz to answer ten questions "
-                                   "about it."),
-                                m_reading, QStringLiteral("txtAnswer"));
+    fraReading = buildQuizPanel(
+        tr("Reading a Calendar"), QStringLiteral("fraReading"),
+        tr("Pick a month, then press Start Quiz. The questions are about that month."), m_reading,
+        QStringLiteral("txtAnswer"));
     lblRQuestion = m_reading.question;
     txtAnswer = m_reading.answer;
     cmdStartReading = m_reading.start;
@@ -321,6 +322,9 @@ QGroupBox *frmCal::buildQuizPanel(const QString &title, const QString &name, con
     panel.start->setAccessibleName(tr("Start Quiz"));
     panel.verdict = makeLabel(QStringLiteral("lblVerdict"), frame, "#2E7D32");
     ScaleFont(panel.verdict, 1.1, true);
+    panel.dots = new ScoreDots(QuizRound::Length, frame);
+    panel.dots->setObjectName(name + QStringLiteral("Dots"));
+    panel.dots->setAccessibleName(tr("Answers so far"));
     panel.score = makeLabel(QStringLiteral("lblScore"), frame, "#455A64");
     ScaleFont(panel.score, 1.0, true);
     auto *answerRow = new QHBoxLayout;
@@ -336,6 +340,7 @@ QGroupBox *frmCal::buildQuizPanel(const QString &title, const QString &name, con
     frameLayout->addSpacing(8);
     frameLayout->addWidget(panel.verdict);
     frameLayout->addStretch(2);
+    frameLayout->addWidget(panel.dots);
     frameLayout->addWidget(panel.score);
     frameLayout->addWidget(panel.start);
     connect(panel.start, &QPushButton::clicked, this, &frmCal::startRound);
@@ -524,8 +529,9 @@ void frmCal::askNext()
     }
     m_lastQuestion = next.text;
     m_round.ask(next);
-    panel.question->setText(tr("Question %1 of %2").arg(m_round.asked()).arg(QuizRound::Length) +
-                            u'\n' + next.text);
+    // The question's own leading line break puts it under its number.
+    panel.question->setText(tr("Question %1 of %2:").arg(m_round.asked()).arg(QuizRound::Length) +
+                            next.text);
     panel.answer->clear();
     panel.answer->setEnabled(true);
     panel.answer->setFocus();
@@ -586,6 +592,7 @@ void frmCal::updateScore()
     QuizPanel &panel = activePanel();
     const int answered = m_round.asked() - (m_round.waitingForAnswer() ? 1 : 0);
     panel.score->setText(tr("Score: %1 right out of %2").arg(m_round.right()).arg(answered));
+    panel.dots->setResults(m_round.results(), m_round.waitingForAnswer());
 }
 
 void frmCal::endRound(bool stopped)

@@ -14,6 +14,7 @@
 class MonthPicture;
 class QButtonGroup;
 class QGroupBox;
+class ScoreDots;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -89,6 +90,7 @@ private:
         QPushButton *start;
         QLabel *score;
         QLabel *verdict;
+        ScoreDots *dots;
     };
 
     void buildControls();

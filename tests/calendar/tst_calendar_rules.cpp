@@ -478,8 +478,11 @@ void tst_calendar_rules::roundKeepsScore()
     }
     QVERIFY(round.isOver());
     QCOMPARE(round.right(), 7);
+    QCOMPARE(round.results(),
+             (QList<bool>{true, true, false, true, true, false, true, true, false, true}));
     round.start();
     QCOMPARE(round.right(), 0);
+    QVERIFY(round.results().isEmpty());
     QVERIFY(!round.isOver());
 }
 
