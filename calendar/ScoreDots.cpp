@@ -20,10 +20,12 @@ void ScoreDots::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const double step = double(width()) / m_count;
-    const double size = qMin(step * 0.8, height() - 4.0);
+    const double size = qMin(double(width()) / m_count * 0.7, height() - 4.0);
+    // Close together in the middle, so the row reads as one score on a wide window.
+    const double step = qMin(double(width()) / m_count, size * 1.5);
+    const double left = (width() - step * m_count) / 2;
     for (int i = 0; i < m_count; ++i) {
-        const QRectF dot(i * step + (step - size) / 2, (height() - size) / 2, size, size);
+        const QRectF dot(left + i * step + (step - size) / 2, (height() - size) / 2, size, size);
         const bool settled = i < m_results.size();
         const bool current = m_asking && i == m_results.size();
         QColor fill(Qt::white);
