@@ -7,6 +7,7 @@
 #include "cards/frmBlack.h"
 #include "cards/frmConc.h"
 #include "cards/frmWar.h"
+#include "calendar/frmCal.h"
 #include "mathrace/frmMRace.h"
 #include "pizza/frmPizza.h"
 #include "spacerace/frmSRace.h"
@@ -31,8 +32,8 @@ QList<ActivityEntry> Activities()
         {6, QStringLiteral("Candy Drive"), {}, QStringLiteral("candy")},
         {7, QStringLiteral("Stop Thief!"), opens<frmThief>(), QStringLiteral("stopthief")},
         {8, QStringLiteral("Graphs && Charts"), {}, QStringLiteral("graphs")},
-        {9, QStringLiteral("Calendar"), {}, QStringLiteral("calendar")},
         {10, QStringLiteral("US Geography"), opens<frmGeo>(), QStringLiteral("usgeography")},
+        {9, QStringLiteral("Calendar"), opens<frmCal>(), QStringLiteral("calendar")},
         {11, QStringLiteral("US Presidents"), {}, QStringLiteral("presidents")},
         {12, QStringLiteral("Keyboarding"), {}, QStringLiteral("typing")},
         // The card games open the one last played: 1 War, 2 Concentration, 3 Blackjack.
