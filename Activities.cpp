@@ -2,6 +2,7 @@
 // The one list of the activities the menu opens.
 #include "Activities.h"
 
+#include "graphs/frmGraphs.h"
 #include "mathrace/frmMRace.h"
 #include "stopthief/frmThief.h"
 
@@ -23,7 +24,7 @@ QList<ActivityEntry> Activities()
         {5, QStringLiteral("Lemonade Stand"), {}, QStringLiteral("lemonade")},
         {6, QStringLiteral("Candy Drive"), {}, QStringLiteral("candy")},
         {7, QStringLiteral("Stop Thief!"), opens<frmThief>(), QStringLiteral("stopthief")},
-        {8, QStringLiteral("Graphs && Charts"), {}, QStringLiteral("graphs")},
+        {8, QStringLiteral("Graphs && Charts"), opens<frmGraphs>(), QStringLiteral("graphs")},
         {9, QStringLiteral("Calendar"), {}, QStringLiteral("calendar")},
         {10, QStringLiteral("US Geography"), {}, QStringLiteral("usgeography")},
         {11, QStringLiteral("US Presidents"), {}, QStringLiteral("presidents")},
