@@ -20,3 +20,4 @@ struct Scene {
 QList<Scene> shellScenes();
 QList<Scene> mathraceScenes();
 QList<Scene> stopthiefScenes();
+QList<Scene> graphsScenes();

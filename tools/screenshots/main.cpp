@@ -24,7 +24,8 @@ int main(int argc, char *argv[])
     const QString filter = argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString();
     QDir().mkpath(out);
 
-    const QList<Scene> scenes = shellScenes() + mathraceScenes() + stopthiefScenes();
+    const QList<Scene> scenes = shellScenes() + mathraceScenes() + stopthiefScenes() +
+                                graphsScenes();
     int written = 0;
     for (const Scene &scene : std::as_const(scenes)) {
         if (!filter.isEmpty() && !scene.name.contains(filter))
