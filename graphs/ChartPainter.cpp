@@ -215,7 +215,7 @@ void paintAxesChart(QPainter &painter, const QRectF &area, const Graph &graph)
     painter.restore();
 }
 
-void paintPie(QPainter &painter, const QRectF &area, const Graph &graph)
+void paintPie(QPainter &painter, const QRectF &area, const Graph &graph, bool legend)
 {
     const QList<ChartGeometry::Slice> slices = ChartGeometry::pieSlices(graph);
     const int count = int(graph.points.size());
@@ -223,7 +223,7 @@ void paintPie(QPainter &painter, const QRectF &area, const Graph &graph)
     const QFont percentFont = fontOf(painter, 30, true);
     const QFontMetricsF legendMetrics(legendFont);
 
-    const double legendWidth = qMin(area.width() * 0.4, 400.0);
+    const double legendWidth = legend ? qMin(area.width() * 0.4, 400.0) : 0.0;
     const double diameter = qMin(area.height() - 20, area.width() - legendWidth - 60);
     if (diameter < 40)
         return;
@@ -268,6 +268,8 @@ void paintPie(QPainter &painter, const QRectF &area, const Graph &graph)
         }
     }
 
+    if (!legend)
+        return;
     // The legend: one row per point with its colour, label and value.
     const double row = qMin(legendMetrics.height() * 1.5, (area.height() - 20) / qMax(1, count));
     const double box = qMin(row * 0.7, legendMetrics.height());
@@ -335,21 +337,19 @@ void ChartPainter::paint(QPainter &painter, const QRectF &area, const Graph &gra
         painter.drawRoundedRect(box.adjusted(2, 2, -2, -2), 18, 18);
     }
     QRectF inner = box.adjusted(28, 20, -28, -20);
-    if (options.showTitle) {
-        painter.setFont(fontOf(painter, 46, true));
-        painter.setPen(QColor(0x0D, 0x47, 0xA1));
-        const double height = QFontMetricsF(painter.font()).height() + 10;
-        drawElided(painter, QRectF(inner.left(), inner.top(), inner.width(), height),
-                   Qt::AlignCenter, graph.title);
-        inner.setTop(inner.top() + height + 10);
-    }
+    painter.setFont(fontOf(painter, 46, true));
+    painter.setPen(QColor(0x0D, 0x47, 0xA1));
+    const double titleHeight = QFontMetricsF(painter.font()).height() + 10;
+    drawElided(painter, QRectF(inner.left(), inner.top(), inner.width(), titleHeight),
+               Qt::AlignCenter, graph.title);
+    inner.setTop(inner.top() + titleHeight + 10);
 
     const bool empty = graph.points.isEmpty() ||
                        (graph.type == Graph::PieChart && ChartGeometry::pieSlices(graph).isEmpty());
     if (empty)
         paintHint(painter, inner, emptyHint(graph));
     else if (graph.type == Graph::PieChart)
-        paintPie(painter, inner, graph);
+        paintPie(painter, inner, graph, options.legend);
     else
         paintAxesChart(painter, inner, graph);
     painter.restore();

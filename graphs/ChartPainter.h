@@ -19,8 +19,8 @@ QColor colour(int index);
 QString colourName(int index);
 
 struct Options {
-    bool paper = false;    // no rounded card behind the chart
-    bool showTitle = true; // the printed page has the title in its header
+    bool paper = false; // no rounded card behind the chart
+    bool legend = true; // a pie's legend, left out where a table beside it says the same
 };
 void paint(QPainter &painter, const QRectF &area, const Graph &graph, const Options &options);
 // The friendly words shown in place of a chart that has nothing to draw.

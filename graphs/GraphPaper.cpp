@@ -19,8 +19,8 @@ void drawTable(QPainter &painter, const QRectF &area, const Graph &graph, const 
     const int rows = int(graph.points.size()) + 1;
     const double rowHeight = qMin(34.0, area.height() / qMax(1, rows));
     const double swatch = 16;
-    const double valueColumn = percent ? 62 : 80;
-    const double percentColumn = percent ? 54 : 0;
+    const double valueColumn = 86;
+    const double percentColumn = percent ? 58 : 0;
     const double labelColumn = area.width() - valueColumn - percentColumn;
     // The axis titles name the columns; a pie's second title often names its values too.
     const QStringList headings{
@@ -100,6 +100,7 @@ PrintDocument GraphPaper::document(const Graph &graph, const QString &fileName)
         const QRectF chart(area.left(), area.top(), area.width() - TableWidth - 30, area.height());
         ChartPainter::Options options;
         options.paper = true;
+        options.legend = false; // the table beside the chart shows each colour
         ChartPainter::paint(painter, chart, graph, options);
         if (!graph.points.isEmpty())
             drawTable(

@@ -24,6 +24,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLoggingCategory>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpressionValidator>
@@ -82,6 +83,46 @@ QLabel *makeCaption(const QString &text, QWidget *buddy, QWidget *parent)
     label->setBuddy(buddy);
     label->setStyleSheet(QStringLiteral("color: #1A237E; font-weight: bold;"));
     return label;
+}
+
+// A small picture of each kind of graph beside its option.
+QIcon kindIcon(int type)
+{
+    QPixmap picture(96, 72);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(0x37, 0x47, 0x4F), 3));
+    if (type == Graph::PieChart) {
+        const QRectF pie(22, 4, 64, 64);
+        const int spans[] = {150, 120, 90};
+        int start = 90;
+        for (int i = 0; i < 3; ++i) {
+            painter.setBrush(ChartPainter::colour(i * 3));
+            painter.drawPie(pie, start * 16, -spans[i] * 16);
+            start -= spans[i];
+        }
+    } else {
+        painter.drawLine(12, 4, 12, 66);
+        painter.drawLine(12, 66, 92, 66);
+        const double heights[] = {24, 44, 34, 56};
+        QPolygonF line;
+        for (int i = 0; i < 4; ++i) {
+            const double x = 26 + i * 19;
+            if (type == Graph::BarChart) {
+                painter.setBrush(ChartPainter::colour(i));
+                painter.drawRect(QRectF(x - 7, 66 - heights[i], 14, heights[i]));
+            }
+            line.append(QPointF(x, 66 - heights[i]));
+        }
+        if (type == Graph::LineGraph) {
+            painter.drawPolyline(line);
+            painter.setBrush(ChartPainter::colour(1));
+            for (const QPointF &point : std::as_const(line))
+                painter.drawEllipse(point, 5, 5);
+        }
+    }
+    return QIcon(picture);
 }
 
 float boxValue(const QLineEdit *box)
@@ -179,6 +220,11 @@ void frmGraphs::buildControls()
     formatLayout->addLayout(stepRow);
     formatLayout->addWidget(pages, 1);
     formatLayout->addWidget(cmdFormatOK, 0, Qt::AlignRight);
+    // A styled frame does not hand the window's lettering down to its children.
+    const auto children = fraFormat->findChildren<QWidget *>();
+    for (QWidget *child : children)
+        if (!child->testAttribute(Qt::WA_SetFont))
+            child->setFont(font());
 
     auto *buttons = Named(new QWidget(this), QStringLiteral("fraButtons"));
     cmdNewGraph = makeButton(tr("&New"), QStringLiteral("cmdNewGraph"), "#2E7D32", buttons);
@@ -242,9 +288,12 @@ QWidget *frmGraphs::buildKindPage()
         option->setStyleSheet(
             QStringLiteral("QRadioButton { font-weight: bold; padding: 4px; }"
                            "QRadioButton::indicator { width: 22px; height: 22px; }"));
+        option->setIcon(kindIcon(i));
+        option->setIconSize(QSize(64, 48));
         group->addButton(option, i);
         auto *hint = new QLabel(hints[i], page);
-        hint->setStyleSheet(QStringLiteral("color: #546E7A; margin-left: 34px;"));
+        hint->setWordWrap(true);
+        hint->setStyleSheet(QStringLiteral("color: #546E7A; margin-left: 104px;"));
         layout->addWidget(option);
         layout->addWidget(hint);
         connect(option, &QRadioButton::toggled, this, [this, i](bool on) {
@@ -297,7 +346,7 @@ QWidget *frmGraphs::buildScalePage()
     chkYGrid->setStyleSheet(QStringLiteral("QCheckBox::indicator { width: 22px; height: 22px; }"));
     auto *intro = new QLabel(tr("The scale is the row of numbers up the side of the graph."), page);
     intro->setWordWrap(true);
-    grid->addWidget(intro, 0, 0, 1, 2);
+    grid->addWidget(intro, 0, 0, 1, 3);
     grid->addWidget(makeCaption(tr("&Minimum (bottom):"), txtYMin, page), 1, 0);
     grid->addWidget(txtYMin, 1, 1);
     grid->addWidget(makeCaption(tr("M&aximum (top):"), txtYmax, page), 2, 0);
@@ -305,15 +354,23 @@ QWidget *frmGraphs::buildScalePage()
     grid->addWidget(makeCaption(tr("&Divisions:"), txtYDiv, page), 3, 0);
     grid->addWidget(txtYDiv, 3, 1);
     grid->addWidget(chkYGrid, 4, 0, 1, 2);
+    lblScaleStep = Named(new QLabel(page), QStringLiteral("lblScaleStep"));
+    lblScaleStep->setWordWrap(true);
+    lblScaleStep->setTextFormat(Qt::PlainText);
+    lblScaleStep->setStyleSheet(QStringLiteral("color: #2E7D32; font-weight: bold;"));
+    grid->addWidget(lblScaleStep, 6, 0, 1, 3);
     lblPieScale = Named(new QLabel(tr("A pie chart has no scale: its slices are parts of the "
                                       "whole."),
                                    page),
                         QStringLiteral("lblPieScale"));
     lblPieScale->setWordWrap(true);
     lblPieScale->setStyleSheet(QStringLiteral("color: #6A1B9A; font-weight: bold;"));
-    grid->addWidget(lblPieScale, 5, 0, 1, 2);
-    grid->setRowStretch(6, 1);
+    grid->addWidget(lblPieScale, 5, 0, 1, 3);
+    grid->setRowStretch(7, 1);
+    grid->setColumnStretch(2, 1);
     for (QLineEdit *box : {txtYMin, txtYmax, txtYDiv}) {
+        box->setMaximumWidth(170);
+        connect(box, &QLineEdit::textChanged, this, &frmGraphs::describeScale);
         connect(box, &QLineEdit::textEdited, this, &frmGraphs::edited);
         box->installEventFilter(this);
     }
@@ -436,7 +493,25 @@ void frmGraphs::updateStepCaptions()
     cmdFormatOK->setAccessibleName(last ? tr("Draw") : tr("Next step"));
     const bool pie = optType[Graph::PieChart]->isChecked();
     lblPieScale->setVisible(pie);
+    lblScaleStep->setVisible(!pie);
     chkPiePercent->setVisible(pie);
+}
+
+// Says in words what the three scale numbers make, so the pupil sees the step of each line.
+void frmGraphs::describeScale()
+{
+    const double minimum = boxValue(txtYMin);
+    const double maximum = boxValue(txtYmax);
+    const qint16 divisions = GraphRules::fixDivisions(txtYDiv->text().toLongLong());
+    if (GraphRules::scaleProblem(minimum, maximum)) {
+        lblScaleStep->setText(tr("The maximum must be bigger than the minimum."));
+        return;
+    }
+    lblScaleStep->setText(tr("The scale goes from %1 to %2, and each line is %3 more than the "
+                             "one under it.")
+                              .arg(GraphRules::formatValue(minimum),
+                                   GraphRules::formatValue(maximum),
+                                   GraphRules::formatValue((maximum - minimum) / divisions)));
 }
 
 void frmGraphs::setColourRow(int row)

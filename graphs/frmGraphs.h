@@ -53,6 +53,7 @@ public:
     QLineEdit *txtYmax;
     QLineEdit *txtYDiv;
     QCheckBox *chkYGrid;
+    QLabel *lblScaleStep;
     QLabel *lblPieScale;
     QList<QLineEdit *> txtXLabel;
     QList<QLineEdit *> txtYValue;
@@ -85,6 +86,7 @@ private:
     QWidget *buildDataPage();
     void updateStepCaptions();
     void setColourRow(int row);
+    void describeScale();
     void edited();
     void redraw();
     void setCaption();
