@@ -125,6 +125,22 @@ QIcon kindIcon(int type)
     return QIcon(picture);
 }
 
+// On a small screen (or at a large scaling) a step scrolls instead of pushing the window
+// past the screen's edge.
+QScrollArea *scrolling(QWidget *page)
+{
+    auto *scroll = new QScrollArea;
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setWidget(page);
+    QPalette paper = scroll->palette();
+    paper.setColor(QPalette::Window, Qt::white);
+    scroll->viewport()->setPalette(paper);
+    scroll->viewport()->setAutoFillBackground(true);
+    return scroll;
+}
+
 float boxValue(const QLineEdit *box)
 {
     return float(GraphRules::parseValue(box->text()).value_or(0.0));
@@ -211,10 +227,10 @@ void frmGraphs::buildControls()
     connect(stepGroup, &QButtonGroup::idClicked, this, &frmGraphs::goToStep);
 
     pages = Named(new QStackedWidget(fraFormat), QStringLiteral("pages"));
-    pages->addWidget(buildKindPage());
-    pages->addWidget(buildTitlesPage());
-    pages->addWidget(buildScalePage());
-    pages->addWidget(buildDataPage());
+    pages->addWidget(scrolling(buildKindPage()));
+    pages->addWidget(scrolling(buildTitlesPage()));
+    pages->addWidget(scrolling(buildScalePage()));
+    pages->addWidget(buildDataPage()); // its rows scroll by themselves
     cmdFormatOK = makeButton(tr("N&ext >"), QStringLiteral("cmdFormatOK"), "#1565C0", fraFormat);
     auto *formatLayout = new QVBoxLayout(fraFormat);
     formatLayout->addLayout(stepRow);
@@ -439,7 +455,7 @@ QWidget *frmGraphs::buildDataPage()
     paintLayout->setContentsMargins(0, 0, 0, 0);
     paintLayout->setSpacing(2);
     auto *paintCaption =
-        new QLabel(tr("Paint box: pick a row's colour box, then a colour."), paintBox);
+        new QLabel(tr("Paint box: click a row's colour, then a new one."), paintBox);
     paintCaption->setWordWrap(true);
     paintCaption->setStyleSheet(QStringLiteral("color: #546E7A;"));
     paintLayout->addWidget(paintCaption, 0, 0, 1, Graph::Colours / 2);
