@@ -486,6 +486,12 @@ QWidget *frmGraphs::buildDataPage()
             edited();
     });
     outer->addWidget(chkPiePercent);
+    lblDataHint = Named(new QLabel(page), QStringLiteral("lblDataHint"));
+    lblDataHint->setWordWrap(true);
+    lblDataHint->setTextFormat(Qt::PlainText);
+    lblDataHint->setStyleSheet(QStringLiteral("color: #C62828; font-weight: bold;"));
+    lblDataHint->hide();
+    outer->addWidget(lblDataHint);
     return page;
 }
 
@@ -587,6 +593,8 @@ void frmGraphs::showGraph(const Graph &graph)
     m_filling = false;
     setColourRow(0);
     updateStepCaptions();
+    redraw();
+    // The graph itself, even one that does not fit its scale: the note above says so.
     picGraph->setGraph(graph);
 }
 
@@ -604,11 +612,17 @@ void frmGraphs::edited()
 void frmGraphs::redraw()
 {
     const Graph graph = graphFromControls();
+    QString hint;
     if (GraphRules::scaleProblem(graph.yMin, graph.yMax) && graph.type != Graph::PieChart)
-        return;
-    if (GraphRules::dataRangeProblem(graph) || GraphRules::pieProblem(graph))
-        return;
-    picGraph->setGraph(graph);
+        hint = tr("The scale's maximum must be bigger than its minimum.");
+    else if (GraphRules::dataRangeProblem(graph))
+        hint = tr("A number does not fit on the scale. Press Draw to find out which.");
+    else if (GraphRules::pieProblem(graph))
+        hint = tr("A pie chart cannot show a number below zero.");
+    lblDataHint->setText(hint);
+    lblDataHint->setVisible(!hint.isEmpty());
+    if (hint.isEmpty())
+        picGraph->setGraph(graph);
 }
 
 void frmGraphs::setCaption()
@@ -917,6 +931,15 @@ bool frmGraphs::eventFilter(QObject *watched, QEvent *event)
     const int labelRow = int(txtXLabel.indexOf(watched));
     const int valueRow = int(txtYValue.indexOf(watched));
     const int row = labelRow >= 0 ? labelRow : valueRow;
+    if (const int swatch = int(lblColor.indexOf(watched)); swatch >= 0) {
+        // Left and right try the colours one by one without going to the paint box.
+        if (key->key() == Qt::Key_Left || key->key() == Qt::Key_Right) {
+            const int step = key->key() == Qt::Key_Right ? 1 : Graph::Colours - 1;
+            lblColorChoice[(lblColor[swatch]->colourIndex() + step) % Graph::Colours]->click();
+            return true;
+        }
+        return ActivityWindow::eventFilter(watched, event);
+    }
     if (row >= 0) {
         // The rows work like a table: Enter goes to the next box, the arrows up and down.
         QList<QLineEdit *> &column = labelRow >= 0 ? txtXLabel : txtYValue;

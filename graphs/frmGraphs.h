@@ -60,6 +60,7 @@ public:
     QList<ColourSwatch *> lblColor;
     QList<ColourSwatch *> lblColorChoice;
     QCheckBox *chkPiePercent;
+    QLabel *lblDataHint;
     QPushButton *cmdFormatOK;
     QPushButton *cmdNewGraph;
     QPushButton *cmdOpenGraph;

@@ -310,6 +310,7 @@ void tst_frmgraphs::scaleAndDataChecks()
              QStringLiteral("Maximum Data Value =12\nAdjust Maximum on Scale"));
     // The chart keeps the last graph that could be drawn: 1, typed on the way to 12.
     QCOMPARE(window.picGraph->graph().points.last().value, 1.0f);
+    QVERIFY(window.lblDataHint->isVisibleTo(&window));
     window.showGraph(Graph());
 }
 
@@ -362,6 +363,15 @@ void tst_frmgraphs::colourFromThePaintBox()
     QCOMPARE(graph.points[0].colour, Graph::defaultColour(0));
     QCOMPARE(graph.points[1].colour, qint16(5));
     QCOMPARE(window.picGraph->graph().points[1].colour, qint16(5));
+    // From the keyboard: the arrows step through the colours of the focused row's box.
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    window.lblColor[0]->setFocus();
+    QTest::keyClick(window.lblColor[0], Qt::Key_Left);
+    QCOMPARE(window.graphFromControls().points[0].colour, qint16(Graph::Colours - 1));
+    QTest::keyClick(window.lblColor[0], Qt::Key_Right);
+    QTest::keyClick(window.lblColor[0], Qt::Key_Right);
+    QCOMPARE(window.graphFromControls().points[0].colour, qint16(1));
     window.showGraph(Graph());
 }
 
