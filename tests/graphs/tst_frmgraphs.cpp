@@ -3,6 +3,7 @@
 
 #include "graphs/ChartView.h"
 #include "graphs/ColourSwatch.h"
+#include "graphs/frmGraphFile.h"
 #include "graphs/frmGraphs.h"
 #include "graphs/GraphFolder.h"
 #include "graphs/GraphPaper.h"
@@ -242,6 +243,15 @@ void tst_frmgraphs::saveAsksBeforeOverwriting()
     window.cmdSaveGraph->click();
     QCOMPARE(m_env->dialogs.messages.last().title, QStringLiteral("Save Graph/Chart"));
     QCOMPARE(GraphFolder::names(), QStringList{QStringLiteral("pets")});
+
+    // The name window itself: typing a name and pressing Enter chooses it.
+    frmGraphFile names(frmGraphFile::Save, GraphFolder::names(), QStringLiteral("pets"));
+    names.show();
+    QCOMPARE(names.chosenName(), QStringLiteral("pets"));
+    QTest::keyClicks(names.cboFiles->lineEdit(), QStringLiteral("birds"));
+    QTest::keyClick(names.cboFiles->lineEdit(), Qt::Key_Return);
+    QCOMPARE(names.result(), int(QDialog::Accepted));
+    QCOMPARE(names.chosenName(), QStringLiteral("birds"));
 }
 
 void tst_frmgraphs::failedSaveAndOpenChangeNothing()
