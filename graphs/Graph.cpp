@@ -24,7 +24,8 @@ bool readFloat(WriteReader &in, float &out)
     double value = 0;
     if (!in.readNumber(value))
         return false;
-    if (std::fabs(value) > double(std::numeric_limits<float>::max()))
+    // No larger than a number box can hold, so what is read can be shown and saved again.
+    if (std::fabs(value) >= Graph::Largest)
         return false;
     out = float(value);
     return true;

@@ -22,6 +22,7 @@ struct Graph {
     static constexpr int MaxPoints = 12;
     static constexpr int Colours = 12;
     static constexpr qint16 MaxDivisions = 50;
+    static constexpr double Largest = 1e9; // nine digits, as many as a number box takes
 
     qint16 type = LineGraph;
     QString title = QStringLiteral("Graph/Chart Title");

@@ -141,6 +141,15 @@ QScrollArea *scrolling(QWidget *page)
     return scroll;
 }
 
+// A number as a pupil would type it into a number box: no exponent, no trailing zeros.
+QString plainNumber(float value)
+{
+    QString text = QString::number(double(value), 'f', 6);
+    while (text.contains(u'.') && (text.endsWith(u'0') || text.endsWith(u'.')))
+        text.chop(1);
+    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
+}
+
 float boxValue(const QLineEdit *box)
 {
     return float(GraphRules::parseValue(box->text()).value_or(0.0));
@@ -447,6 +456,7 @@ QWidget *frmGraphs::buildDataPage()
         lblColor.append(colour);
     }
     grid->setColumnStretch(1, 1);
+    grid->setRowStretch(Graph::MaxPoints + 1, 1); // spare room goes under the rows
     scroll->setWidget(rows);
     outer->addWidget(scroll, 1);
 
@@ -578,15 +588,14 @@ void frmGraphs::showGraph(const Graph &graph)
     txtXTitle->setText(graph.xTitle);
     txtYTitle->setText(graph.yTitle);
     chkYGrid->setChecked(graph.grid);
-    // Shown as typed numbers are, so the boxes hold exactly what the file holds.
-    txtYMin->setText(QString::number(double(graph.yMin), 'g', 9));
-    txtYmax->setText(QString::number(double(graph.yMax), 'g', 9));
+    txtYMin->setText(plainNumber(graph.yMin));
+    txtYmax->setText(plainNumber(graph.yMax));
     txtYDiv->setText(QString::number(graph.divisions));
     for (int i = 0; i < Graph::MaxPoints; ++i) {
         const bool used = i < graph.points.size();
         txtXLabel[i]->setText(used ? graph.points[i].label : QString());
-        txtYValue[i]->setText(used ? QString::number(double(graph.points[i].value), 'g', 9)
-                                   : QString());
+        // Listed as "0.#": a pupil reads 2.5, not 2.4999999.
+        txtYValue[i]->setText(used ? GraphRules::formatValue(graph.points[i].value) : QString());
         lblColor[i]->setColourIndex(used ? graph.points[i].colour : Graph::defaultColour(i));
     }
     chkPiePercent->setChecked(graph.piePercent);

@@ -130,7 +130,8 @@ void tst_graphs_rules::damagedFiles_data()
     QTest::newRow("minimum not below maximum") << head + "0,5,5,10\n0\n0\n";
     QTest::newRow("no divisions") << head + "0,0,10,0\n0\n0\n";
     QTest::newRow("grid flag two") << head + "2,0,10,10\n0\n0\n";
-    QTest::newRow("value too large") << head + "0,0,10,10\n1\n\"a\",1e39,0\n0\n";
+    QTest::newRow("value too large") << head + "0,0,10,10\n1\n\"a\",1e9,0\n0\n";
+    QTest::newRow("maximum too large") << head + "0,0,1e39,10\n0\n0\n";
     QTest::newRow("open quote") << QByteArray("1\n\"T\n\"X\"\n\"Y\"\n0,0,10,10\n0\n0\n");
     QTest::newRow("scale on two lines") << head + "0,0\n10,10\n0\n0\n";
     QTest::newRow("empty") << QByteArray();
