@@ -5,10 +5,17 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
 namespace {
+
+// The rules' messages go through the translations like every text a pupil reads.
+QString text(const char *source)
+{
+    return QCoreApplication::translate("GraphRules", source);
+}
 
 // A single-precision value written as its shortest decimal, so 0.1 is saved as "0.1" and not
 // as the double nearest the float.
@@ -46,11 +53,11 @@ QString Graph::typeName(int type)
 {
     switch (type) {
     case LineGraph:
-        return QStringLiteral("Line Graph");
+        return text("Line Graph");
     case BarChart:
-        return QStringLiteral("Bar Chart");
+        return text("Bar Chart");
     default:
-        return QStringLiteral("Pie Chart");
+        return text("Pie Chart");
     }
 }
 
@@ -101,8 +108,7 @@ std::optional<GraphMessage> GraphRules::scaleProblem(double minimum, double maxi
 {
     if (maximum > minimum)
         return std::nullopt;
-    return GraphMessage{QStringLiteral("Scale Error"),
-                        QStringLiteral("Minimum must be smaller than Maximum.")};
+    return GraphMessage{text("Scale Error"), text("Minimum must be smaller than Maximum.")};
 }
 
 qint16 GraphRules::fixDivisions(qint64 divisions)
@@ -116,13 +122,13 @@ std::optional<GraphMessage> GraphRules::dataRangeProblem(const Graph &graph)
         return std::nullopt;
     for (const GraphPoint &point : graph.points) {
         if (point.value < graph.yMin)
-            return GraphMessage{QStringLiteral("Data Range Error"),
-                                QStringLiteral("Minimum Data Value =") + formatValue(point.value) +
-                                    QStringLiteral("\nAdjust Minimum on Scale")};
+            return GraphMessage{text("Data Range Error"), text("Minimum Data Value =") +
+                                                              formatValue(point.value) +
+                                                              text("\nAdjust Minimum on Scale")};
         if (point.value > graph.yMax)
-            return GraphMessage{QStringLiteral("Data Range Error"),
-                                QStringLiteral("Maximum Data Value =") + formatValue(point.value) +
-                                    QStringLiteral("\nAdjust Maximum on Scale")};
+            return GraphMessage{text("Data Range Error"), text("Maximum Data Value =") +
+                                                              formatValue(point.value) +
+                                                              text("\nAdjust Maximum on Scale")};
     }
     return std::nullopt;
 }
@@ -133,10 +139,10 @@ std::optional<GraphMessage> GraphRules::pieProblem(const Graph &graph)
         return std::nullopt;
     for (const GraphPoint &point : graph.points)
         if (point.value < 0)
-            return GraphMessage{QStringLiteral("Data Range Error"),
-                                QStringLiteral("A pie chart cannot show a part less than zero: ") +
+            return GraphMessage{text("Data Range Error"),
+                                text("A pie chart cannot show a part less than zero: ") +
                                     formatValue(point.value) +
-                                    QStringLiteral("\nUse a line graph or a bar chart instead.")};
+                                    text("\nUse a line graph or a bar chart instead.")};
     return std::nullopt;
 }
 

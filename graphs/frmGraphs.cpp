@@ -38,7 +38,6 @@ Q_LOGGING_CATEGORY(lcGraphs, "lumbridle.graphs")
 
 namespace {
 
-const QString Caption = QStringLiteral("Graphs & Charts");
 const QString NewName = QString::fromLatin1(GraphRules::NewName);
 
 QPushButton *makeButton(const QString &caption, const QString &name, const char *colour,
