@@ -206,8 +206,11 @@ std::optional<Graph> GraphFile::parse(const QByteArray &content, FileError *erro
     if (!in.beginLine(4) || !readFlag(in, graph.grid) || !readFloat(in, graph.yMin) ||
         !readFloat(in, graph.yMax) || !in.readInt16(graph.divisions))
         return fail(5, QStringLiteral("the scale line is damaged"));
-    if (GraphRules::scaleProblem(graph.yMin, graph.yMax) || graph.divisions < 1 ||
-        graph.divisions > Graph::MaxDivisions)
+    // A pie chart has no scale, so whatever its scale boxes held was saved unchecked.
+    if (graph.type == Graph::PieChart)
+        graph.divisions = GraphRules::fixDivisions(graph.divisions);
+    else if (GraphRules::scaleProblem(graph.yMin, graph.yMax) || graph.divisions < 1 ||
+             graph.divisions > Graph::MaxDivisions)
         return fail(5, QStringLiteral("the scale is not a usable one"));
     if (!in.beginLine(1) || !in.readInt16(count))
         return fail(6, {});

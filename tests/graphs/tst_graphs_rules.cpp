@@ -104,6 +104,12 @@ void tst_graphs_rules::roundTrip()
 
 void tst_graphs_rules::writtenForm()
 {
+    // A pie chart's unused scale is read as it was saved, however odd.
+    const auto pie = GraphFile::parse("2\n\"T\"\n\"X\"\n\"Y\"\n0,5,5,0\n0\n0\n");
+    QVERIFY(pie);
+    QCOMPARE(pie->yMin, 5.0f);
+    QCOMPARE(pie->divisions, qint16(1));
+
     Graph graph;
     graph.type = Graph::PieChart;
     graph.points = {{QStringLiteral("Walk, \"fast\""), 0.1f, 3}};
