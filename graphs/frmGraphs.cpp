@@ -168,6 +168,7 @@ frmGraphs::frmGraphs(QWidget *parent) : ActivityWindow(QStringLiteral("graphs"),
     showGraph(fresh);
     m_name = NewName;
     setCaption();
+    optType[fresh.type]->setFocus();
 
     QSize size(1180, 740);
     if (const QScreen *screen = QGuiApplication::primaryScreen())
@@ -815,6 +816,13 @@ void frmGraphs::cmdClear_Click()
 
 void frmGraphs::cmdPrint_Click()
 {
+    if (graphFromControls().points.isEmpty()) {
+        MsgBox(this, tr("Print Graph/Chart"),
+               tr("There is nothing to print yet. Type some labels and numbers in the Data step "
+                  "first."),
+               QMessageBox::Information);
+        return;
+    }
     if (!checkScale() || !checkData())
         return;
     PrintWithPreview(this, GraphPaper::document(graphFromControls(), m_name));

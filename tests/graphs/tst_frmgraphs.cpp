@@ -391,6 +391,9 @@ void tst_frmgraphs::printsALandscapePage()
     m_env->dialogs.pdfFolder = pdfs.path();
     frmGraphs window;
     window.show();
+    window.cmdPrint->click(); // nothing to print yet
+    QCOMPARE(m_env->dialogs.messages.size(), 1);
+    QVERIFY(m_env->dialogs.printed.isEmpty());
     typeRow(window, 0, QStringLiteral("Walk"), QStringLiteral("8"));
     window.optType[Graph::PieChart]->click();
     window.cmdPrint->click();
