@@ -124,6 +124,14 @@ QIcon kindIcon(int type)
     return QIcon(picture);
 }
 
+// Inside the styled frame a palette is not enough: the style sheet paints the page white.
+void paintWhite(QScrollArea *scroll)
+{
+    scroll->setStyleSheet(
+        QStringLiteral("#qt_scrollarea_viewport,"
+                       " #qt_scrollarea_viewport > QWidget { background: white; }"));
+}
+
 // On a small screen (or at a large scaling) a step scrolls instead of pushing the window
 // past the screen's edge.
 QScrollArea *scrolling(QWidget *page)
@@ -133,10 +141,7 @@ QScrollArea *scrolling(QWidget *page)
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setWidget(page);
-    QPalette paper = scroll->palette();
-    paper.setColor(QPalette::Window, Qt::white);
-    scroll->viewport()->setPalette(paper);
-    scroll->viewport()->setAutoFillBackground(true);
+    paintWhite(scroll);
     return scroll;
 }
 
@@ -415,10 +420,7 @@ QWidget *frmGraphs::buildDataPage()
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     auto *rows = new QWidget(scroll);
-    rows->setAutoFillBackground(true);
-    QPalette paper = rows->palette();
-    paper.setColor(QPalette::Window, Qt::white);
-    rows->setPalette(paper);
+    paintWhite(scroll);
     auto *grid = new QGridLayout(rows);
     grid->setVerticalSpacing(3);
     grid->setContentsMargins(2, 2, 8, 2);
