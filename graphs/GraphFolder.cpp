@@ -54,8 +54,10 @@ QString GraphFolder::path()
 {
     if (!override().isEmpty())
         return override();
-    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) +
-           QStringLiteral("/Lumbridle/Graphs");
+    // Test programs never write into the user's documents: their test mode has its own folder.
+    const auto base = QStandardPaths::isTestModeEnabled() ? QStandardPaths::GenericDataLocation
+                                                          : QStandardPaths::DocumentsLocation;
+    return QStandardPaths::writableLocation(base) + QStringLiteral("/Lumbridle/Graphs");
 }
 
 void GraphFolder::setPath(const QString &folder)
