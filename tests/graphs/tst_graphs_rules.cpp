@@ -9,6 +9,7 @@
 #include "shell/core/DataPath.h"
 
 #include <numeric>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -436,6 +437,9 @@ void tst_graphs_rules::folderList()
     QVERIFY(GraphFolder::exists(QStringLiteral("A")));
     QVERIFY(!GraphFolder::exists(QStringLiteral("notes")));
     GraphFolder::setPath({});
+    QVERIFY(GraphFolder::path().endsWith(QLatin1String("/Lumbridle/Graphs")));
+    QVERIFY(!GraphFolder::path().startsWith(
+        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)));
 }
 
 QTEST_GUILESS_MAIN(tst_graphs_rules)
