@@ -318,6 +318,7 @@ QWidget *frmGraphs::buildKindPage()
         option->setStyleSheet(
             QStringLiteral("QRadioButton { font-weight: bold; padding: 4px; }"
                            "QRadioButton::indicator { width: 22px; height: 22px; }"));
+        option->installEventFilter(this);
         option->setIcon(kindIcon(i));
         option->setIconSize(QSize(64, 48));
         group->addButton(option, i);
@@ -981,7 +982,8 @@ bool frmGraphs::eventFilter(QObject *watched, QEvent *event)
         }
         return ActivityWindow::eventFilter(watched, event);
     }
-    if (enter && qobject_cast<QLineEdit *>(watched)) {
+    // Enter on a kind, as in a title or scale box, goes on to the next step.
+    if (enter && (qobject_cast<QLineEdit *>(watched) || optType.contains(watched))) {
         if (cmdFormatOK->isEnabled())
             cmdFormatOK->click();
         return true;

@@ -353,9 +353,11 @@ void tst_frmgraphs::numberBoxesAndKeys()
     QCOMPARE(QApplication::focusWidget(), window.txtXLabel[3]);
     QTest::keyClick(window.txtXLabel[3], Qt::Key_Up);
     QCOMPARE(QApplication::focusWidget(), window.txtXLabel[2]);
-    // Enter in a title box goes on to the next step.
-    window.goToStep(1);
-    window.txtTitle->setFocus();
+    // Enter on a kind or in a title box goes on to the next step.
+    window.goToStep(0);
+    window.optType[1]->setFocus();
+    QTest::keyClick(window.optType[1], Qt::Key_Return);
+    QCOMPARE(window.formatStep(), 1);
     QTest::keyClick(window.txtTitle, Qt::Key_Return);
     QCOMPARE(window.formatStep(), 2);
     window.showGraph(Graph());
