@@ -16,6 +16,8 @@ void ColourSwatch::setColourIndex(int index)
 {
     m_index = index;
     setToolTip(ChartPainter::colourName(index));
+    // A screen reader says the colour, which the square itself cannot.
+    setAccessibleDescription(ChartPainter::colourName(index));
     update();
 }
 
