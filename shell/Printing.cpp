@@ -15,6 +15,11 @@ PrintDocument::PrintDocument(const QString &title, const QString &continuedTitle
     setFont(QStringLiteral("Courier New"), 12);
 }
 
+QSize PrintDocument::pageSize() const
+{
+    return m_landscape ? QSize(PageHeight, PageWidth) : QSize(PageWidth, PageHeight);
+}
+
 QString PrintDocument::creditLine()
 {
     return QStringLiteral("Lumbridle 5.0 - learning games for curious minds");
@@ -43,7 +48,7 @@ double PrintDocument::lineSpacing() const
 int PrintDocument::charsPerLine() const
 {
     const double width = QFontMetricsF(m_fineFont).horizontalAdvance(QLatin1Char('H')) / Fine;
-    return width > 0 ? qMax(1, int(std::floor(TextWidth / width))) : 65;
+    return width > 0 ? qMax(1, int(std::floor(textWidth() / width))) : 65;
 }
 
 void PrintDocument::addText(const QString &text)
@@ -83,7 +88,7 @@ QList<QList<PrintDocument::Placed>> PrintDocument::layOut() const
     };
     startPage();
     auto place = [&](Placed item) {
-        if (y + item.height > Bottom)
+        if (y + item.height > bottom())
             startPage();
         item.y = y;
         pages.last().append(item);
@@ -111,7 +116,7 @@ void RenderDocument(const PrintDocument &document, QPagedPaintDevice &device)
     for (qsizetype p = 0; p < pages.size(); ++p) {
         if (p > 0)
             device.newPage();
-        painter.setWindow(0, 0, PrintDocument::PageWidth, PrintDocument::PageHeight);
+        painter.setWindow(QRect(QPoint(0, 0), document.pageSize()));
         painter.setViewport(0, 0, device.width(), device.height());
         painter.setPen(Qt::black);
         const QFontMetricsF metrics(document.fineFont());
@@ -119,8 +124,8 @@ void RenderDocument(const PrintDocument &document, QPagedPaintDevice &device)
             if (item.drawing) {
                 painter.save();
                 painter.setFont(document.font());
-                item.drawing(painter, QRect(PrintDocument::Left, item.y, PrintDocument::TextWidth,
-                                            item.height));
+                item.drawing(painter,
+                             QRect(PrintDocument::Left, item.y, document.textWidth(), item.height));
                 painter.restore();
             } else if (!item.text.isEmpty()) {
                 painter.save();
@@ -140,6 +145,8 @@ bool WritePdf(const PrintDocument &document, const QString &path)
     {
         QPdfWriter writer(path);
         writer.setPageSize(QPageSize(QPageSize::Letter));
+        writer.setPageOrientation(document.landscape() ? QPageLayout::Landscape
+                                                       : QPageLayout::Portrait);
         writer.setPageMargins(QMarginsF(0, 0, 0, 0));
         writer.setResolution(600);
         writer.setTitle(document.title());

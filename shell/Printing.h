@@ -4,13 +4,14 @@
 #include <functional>
 #include <QFont>
 #include <QList>
+#include <QSize>
 #include <QString>
 
 class QPagedPaintDevice;
 class QPainter;
 
 // A document for the printer on a letter page of 850 x 1100 logical units (hundredths of an
-// inch): a credit line, the title, then the body; further pages repeat the header with the
+// inch), or 1100 x 850 when turned to landscape: a credit line, the title, then the body; further pages repeat the header with the
 // continued title. The body is text wrapped at a fixed number of characters per line and
 // drawings that keep their place on one page.
 class PrintDocument {
@@ -25,6 +26,13 @@ public:
     using Drawing = std::function<void(QPainter &painter, const QRect &area)>;
 
     explicit PrintDocument(const QString &title, const QString &continuedTitle = {});
+
+    // A landscape page keeps the margins; the text and drawings get the extra width.
+    void setLandscape(bool on) { m_landscape = on; }
+    bool landscape() const { return m_landscape; }
+    QSize pageSize() const;
+    int bottom() const { return pageSize().height() - (PageHeight - Bottom); }
+    int textWidth() const { return pageSize().width() - (PageWidth - TextWidth); }
 
     QString title() const { return m_title; }
     QString continuedTitle() const { return m_continued.isEmpty() ? m_title : m_continued; }
@@ -68,6 +76,7 @@ private:
     QString m_continued;
     QFont m_fineFont;
     QList<Block> m_blocks;
+    bool m_landscape = false;
 };
 
 // Paints every page of the document on a printer or PDF writer.

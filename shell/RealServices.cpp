@@ -139,6 +139,8 @@ bool QtDialogs::print(QWidget *parent, const PrintDocument &document)
 {
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageSize(QPageSize(QPageSize::Letter));
+    printer.setPageOrientation(document.landscape() ? QPageLayout::Landscape
+                                                    : QPageLayout::Portrait);
     printer.setFullPage(true);
     printer.setDocName(document.title());
     QPrintPreviewDialog preview(&printer, parent);

@@ -26,3 +26,4 @@ QList<Scene> spaceraceScenes();
 QList<Scene> geographyScenes();
 QList<Scene> cardsScenes();
 QList<Scene> calendarScenes();
+QList<Scene> graphsScenes();

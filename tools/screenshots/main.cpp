@@ -35,6 +35,7 @@ int main(int argc, char *argv[])
     scenes += geographyScenes();
     scenes += cardsScenes();
     scenes += calendarScenes();
+    scenes += graphsScenes();
     int written = 0;
     for (const Scene &scene : std::as_const(scenes)) {
         if (!filter.isEmpty() && !scene.name.contains(filter))
