@@ -32,9 +32,9 @@ QList<ActivityEntry> Activities()
         {5, QStringLiteral("Lemonade Stand"), {}, QStringLiteral("lemonade")},
         {6, QStringLiteral("Candy Drive"), {}, QStringLiteral("candy")},
         {7, QStringLiteral("Stop Thief!"), opens<frmThief>(), QStringLiteral("stopthief")},
-        {10, QStringLiteral("US Geography"), opens<frmGeo>(), QStringLiteral("usgeography")},
-        {9, QStringLiteral("Calendar"), opens<frmCal>(), QStringLiteral("calendar")},
         {8, QStringLiteral("Graphs && Charts"), opens<frmGraphs>(), QStringLiteral("graphs")},
+        {9, QStringLiteral("Calendar"), opens<frmCal>(), QStringLiteral("calendar")},
+        {10, QStringLiteral("US Geography"), opens<frmGeo>(), QStringLiteral("usgeography")},
         {11, QStringLiteral("US Presidents"), {}, QStringLiteral("presidents")},
         {12, QStringLiteral("Keyboarding"), {}, QStringLiteral("typing")},
         // The card games open the one last played: 1 War, 2 Concentration, 3 Blackjack.

@@ -2,7 +2,9 @@
 #include "FuzzTargets.h"
 
 #include "balloon/BalloonWords.h"
+#include "calendar/CalendarData.h"
 #include "geography/UsStates.h"
+#include "graphs/Graph.h"
 #include "shell/core/Settings.h"
 #include "shell/core/WriteFormat.h"
 #include "spacerace/WordList.h"
@@ -135,6 +137,29 @@ void quizTable(const QByteArray &input, const QuizTable::Layout &layout)
             if (table.text(record, field).isEmpty())
                 FuzzFail("a quiz table read with a blank answer", input);
 }
+// A calendar file that reads has a real length for every month.
+void calendarData(const QByteArray &input)
+{
+    CalendarData data;
+    const bool ok = data.parse(input);
+    expectHonestError(ok, data.error(), input);
+    for (int month = 1; ok && month <= 12; ++month)
+        if (data.daysInMonth(month) < 28 || data.daysInMonth(month) > 31)
+            FuzzFail("a calendar read with a month of impossible length", input);
+}
+
+// A graph file that reads is written back and read again as the same graph.
+void graphFile(const QByteArray &input)
+{
+    FileError error;
+    const auto graph = GraphFile::parse(input, &error);
+    expectHonestError(graph.has_value(), error, input);
+    if (!graph)
+        return;
+    const auto again = GraphFile::parse(GraphFile::format(*graph));
+    if (!again || !(*again == *graph))
+        FuzzFail("a graph written back read differently", input);
+}
 } // namespace
 
 const QList<FuzzTarget> &FuzzTargets()
@@ -145,6 +170,8 @@ const QList<FuzzTarget> &FuzzTargets()
         {"thief", {"thief.dat"}, thiefData},
         {"balloon", {"balloon.dat"}, balloonWords},
         {"usgeo", {"usgeo.dat"}, [](const QByteArray &in) { quizTable(in, UsStates::Layout()); }},
+        {"calendar", {"calendar.dat"}, calendarData},
+        {"graph", {"line.tsx", "bar1.tsx", "bar2.tsx", "pie1.tsx", "pie2.tsx"}, graphFile},
         {"spelling", {"grade1.srl", "grade3.srl", "grade5.srl", "tricky.srl"}, spellingList},
     };
     return targets;
