@@ -2,8 +2,10 @@
 // Kills a process at many moments while it saves a file over and over, and checks that the
 // file on disk is always one whole version, old or new: never empty, never half of each.
 // Each saver is one row of a table: a file that the program saves is one more line there.
+#include "graphs/Graph.h"
 #include "shell/core/Settings.h"
 #include "shell/core/WriteFormat.h"
+#include "spacerace/WordList.h"
 #include "support/TestDoubles.h"
 
 #include <csignal>
@@ -34,6 +36,23 @@ Settings settingsVersion(int version)
 }
 
 // About half a megabyte, so a kill often lands in the middle of the write.
+WordList listVersion(int version)
+{
+    WordList list;
+    list.words = version ? QStringList{QStringLiteral("MOON"), QStringLiteral("ROCKET")}
+                         : QStringList(20, QStringLiteral("SPACESHIP"));
+    return list;
+}
+
+Graph graphVersion(int version)
+{
+    Graph graph;
+    graph.title = version ? QStringLiteral("Rain in May") : QStringLiteral("Pets in our class");
+    for (int i = 0; i < 12 - 8 * version; ++i)
+        graph.points.append({QStringLiteral("Day %1").arg(i + 1), float(i), qint16(i % 12)});
+    return graph;
+}
+
 QByteArray largeVersion(int version)
 {
     static const QByteArray versions[2] = {
@@ -57,6 +76,10 @@ const QList<Saver> &Savers()
     static const QList<Saver> savers = {
         {"settings", [](int v) { return SettingsFile::format(settingsVersion(v)); },
          [](const QString &path, int v) { return SettingsFile::write(path, settingsVersion(v)); }},
+        {"word list", [](int v) { return listVersion(v).format(); },
+         [](const QString &path, int v) { return listVersion(v).write(path); }},
+        {"graph file", [](int v) { return GraphFile::format(graphVersion(v)); },
+         [](const QString &path, int v) { return GraphFile::write(path, graphVersion(v)); }},
         {"large file", largeVersion,
          [](const QString &path, int v) { return SaveFileAtomically(path, largeVersion(v)); }},
     };
