@@ -5,6 +5,7 @@
 #include "Preferences.h"
 #include "Printing.h"
 #include "SoundBackend.h"
+#include "shell/core/WaveFile.h"
 
 #include <QApplication>
 #include <QFile>
@@ -14,7 +15,6 @@
 #include <QLoggingCategory>
 #include <QPrinter>
 #include <QPrintPreviewDialog>
-#include <QtEndian>
 #include <QThread>
 #include <QToolBar>
 #include <QUrl>
@@ -58,9 +58,16 @@ void QtSound::play(const QString &file, bool wait)
 {
     if (Preferences::get().muted || !QFileInfo::exists(file) || !backend())
         return;
+    // The wait itself belongs to PlaySound, which asks length().
+    Q_UNUSED(wait);
     m_backend->play(file);
-    if (wait)
-        Services::clock().delay(waveSeconds(file));
+}
+
+double QtSound::length(const QString &file)
+{
+    if (Preferences::get().muted || !m_backend)
+        return 0;
+    return waveSeconds(file);
 }
 
 void QtSound::beep()
@@ -71,24 +78,7 @@ void QtSound::beep()
 
 double QtSound::waveSeconds(const QString &file)
 {
-    QFile in(file);
-    if (!in.open(QIODevice::ReadOnly))
-        return 0;
-    const QByteArray head = in.read(4096);
-    if (head.size() < 12 || !head.startsWith("RIFF") || head.mid(8, 4) != "WAVE")
-        return 0;
-    quint32 byteRate = 0;
-    qsizetype pos = 12;
-    while (pos + 8 <= head.size()) {
-        const QByteArray id = head.mid(pos, 4);
-        const quint32 size = qFromLittleEndian<quint32>(head.constData() + pos + 4);
-        if (id == "fmt " && pos + 16 <= head.size())
-            byteRate = qFromLittleEndian<quint32>(head.constData() + pos + 16);
-        if (id == "data")
-            return byteRate ? double(size) / byteRate : 0;
-        pos += 8 + size + (size & 1);
-    }
-    return 0;
+    return WaveFile::seconds(file);
 }
 
 void SystemClock::delay(double seconds)
@@ -111,6 +101,9 @@ void SystemClock::delay(double seconds)
 QMessageBox::StandardButton QtDialogs::message(QWidget *parent, const MessageRequest &request)
 {
     QMessageBox box(request.icon, request.title, request.text, request.buttons, parent);
+    box.setTextFormat(Qt::PlainText);
+    if (!request.details.isEmpty())
+        box.setDetailedText(request.details);
     if (request.defaultButton != QMessageBox::NoButton)
         box.setDefaultButton(request.defaultButton);
     return QMessageBox::StandardButton(box.exec());
