@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmMenu.h"
 
+#include "Accessibility.h"
 #include "ActivityWindow.h"
 #include "shell/core/DataPath.h"
 #include "Preferences.h"
@@ -36,6 +37,7 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
     : QWidget(parent), m_activities(activities)
 {
     setObjectName(QStringLiteral("frmMenu"));
+    InstallAccessibility();
     setWindowTitle(QStringLiteral("Lumbridle, Version 5.0"));
     setAutoFillBackground(true);
     QPalette background = palette();
@@ -78,6 +80,7 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
                                         [i](const ActivityEntry &e) { return e.index == i; });
         auto *button = Named(new QPushButton(this), ArrayName("cmdChoice", i));
         button->setText(entry != m_activities.cend() ? entry->caption : QString());
+        button->setAccessibleName(SpokenCaption(button->text()));
         button->setFont(choiceFont);
         button->setMinimumSize(150, 64);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -93,6 +96,8 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
     cmdHelp = Named(new QPushButton(tr("&Help"), this), QStringLiteral("cmdHelp"));
     cmdSound = Named(new QPushButton(this), QStringLiteral("cmdSound"));
     cmdSound->setCheckable(true);
+    // Read as what it is: a switch called Sound, on (checked) while sounds play.
+    cmdSound->setAccessibleName(tr("Sound"));
     cmdExit = Named(new QPushButton(tr("E&xit"), this), QStringLiteral("cmdExit"));
     for (QPushButton *button : {cmdHelp, cmdSound, cmdExit}) {
         ScaleFont(button, 1.3, true);
@@ -100,14 +105,14 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
         button->setMinimumWidth(130);
     }
     connect(cmdHelp, &QPushButton::clicked, this, [this] { ShowHelpContents(this); });
-    connect(cmdSound, &QPushButton::toggled, this, [this](bool muted) {
-        Preferences::get().muted = muted;
-        if (muted)
+    connect(cmdSound, &QPushButton::toggled, this, [this](bool on) {
+        Preferences::get().muted = !on;
+        if (!on)
             StopSound();
         updateSoundButton();
     });
     connect(cmdExit, &QPushButton::clicked, this, &QWidget::close);
-    cmdSound->setChecked(Preferences::get().muted);
+    cmdSound->setChecked(!Preferences::get().muted);
     updateSoundButton();
 
     auto *top = new QHBoxLayout;
@@ -129,7 +134,7 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
 
 void frmMenu::updateSoundButton()
 {
-    cmdSound->setText(cmdSound->isChecked() ? tr("Sound &off") : tr("Sound &on"));
+    cmdSound->setText(cmdSound->isChecked() ? tr("Sound &on") : tr("Sound &off"));
     cmdSound->setToolTip(tr("Turn all sounds on or off, for a quiet classroom."));
 }
 
