@@ -93,6 +93,12 @@ private slots:
             return int(QDialog::Rejected);
         };
         std::unique_ptr<QWidget> window;
+        auto openActivity = [activity, &window] {
+            for (const ActivityEntry &entry : Activities())
+                if (entry.index == activity)
+                    window.reset(entry.open());
+            window->setAttribute(Qt::WA_DeleteOnClose, false);
+        };
         switch (activity) {
         case -1:
             window = std::make_unique<frmMenu>(Activities());
@@ -110,24 +116,22 @@ private slots:
             window = std::make_unique<HelpWindow>();
             break;
         default:
-            for (const ActivityEntry &entry : Activities())
-                if (entry.index == activity)
-                    window.reset(entry.open());
-            QVERIFY(window);
-            window->setAttribute(Qt::WA_DeleteOnClose, false);
+            openActivity();
         }
         window->show();
         problems += problemsOf(window.get());
-        if (activity >= 0) {
-            const auto buttons = window->findChildren<QAbstractButton *>();
-            for (const QPointer<QAbstractButton> button : buttons) {
-                if (!button || !button->isVisible() || !button->isEnabled() ||
-                    button->text() == ActivityWindow::exitCaption(false) ||
-                    button->text() == ActivityWindow::exitCaption(true))
-                    continue;
-                button->click();
-                problems += problemsOf(window.get());
-            }
+        // Each button of the opening window is pressed in a fresh window of its own.
+        const qsizetype buttons =
+            activity >= 0 ? window->findChildren<QAbstractButton *>().size() : 0;
+        for (qsizetype i = 0; i < buttons; ++i) {
+            openActivity();
+            window->show();
+            QAbstractButton *button = window->findChildren<QAbstractButton *>().value(i);
+            if (!button || !button->isVisible() || !button->isEnabled() ||
+                button->text() == ActivityWindow::exitCaption(false))
+                continue;
+            button->click();
+            problems += problemsOf(window.get());
         }
         problems.removeDuplicates();
         QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
