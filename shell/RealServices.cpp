@@ -5,8 +5,10 @@
 #include "Preferences.h"
 #include "Printing.h"
 #include "SoundBackend.h"
+#include "WindowUtil.h"
 #include "shell/core/WaveFile.h"
 
+#include <cstdio>
 #include <QApplication>
 #include <QFile>
 #include <QFileDialog>
@@ -100,6 +102,15 @@ void SystemClock::delay(double seconds)
 
 QMessageBox::StandardButton QtDialogs::message(QWidget *parent, const MessageRequest &request)
 {
+    if (!CanShowMessages()) {
+        // Nobody could close the box: say it where it can be read and go on as if closed.
+        std::fprintf(stderr, "lumbridle: %s: %s\n", qPrintable(request.title),
+                     qPrintable(request.text));
+        if (request.buttons.testFlag(QMessageBox::Cancel))
+            return QMessageBox::Cancel;
+        return request.defaultButton != QMessageBox::NoButton ? request.defaultButton
+                                                              : QMessageBox::Ok;
+    }
     QMessageBox box(request.icon, request.title, request.text, request.buttons, parent);
     box.setTextFormat(Qt::PlainText);
     if (!request.details.isEmpty())

@@ -8,6 +8,7 @@
 #include "shell/core/Settings.h"
 #include "shell/core/SettingsStore.h"
 
+#include <cstdio>
 #include <QApplication>
 #include <QDir>
 #include <QIcon>
@@ -67,9 +68,14 @@ bool PrepareStart(const QString &dataDir)
 
     FileError error;
     if (!SettingsStore::load(&error)) {
-        qCCritical(lcShell).noquote() << error.message();
-        MsgBox(nullptr, QStringLiteral("Lumbridle"),
-               QString::fromLatin1(SettingsFile::BrokenMessage), QMessageBox::Critical);
+        // Written first and always: with no screen to show the box on, this is all anyone sees.
+        std::fprintf(stderr, "lumbridle: %s\nlumbridle: %s\n", SettingsFile::BrokenMessage,
+                     qPrintable(error.message()));
+        std::fflush(stderr);
+        MsgBox(nullptr, MessageRequest{QStringLiteral("Lumbridle"),
+                                           QString::fromLatin1(SettingsFile::BrokenMessage),
+                                           QMessageBox::Critical, QMessageBox::Ok,
+                                           QMessageBox::NoButton, error.message()});
         return false;
     }
     return true;

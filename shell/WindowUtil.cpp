@@ -78,3 +78,11 @@ void Announce(QWidget *source, const QString &text)
     QAccessibleEvent alert(source, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }
+
+bool CanShowMessages()
+{
+    // A box on the offscreen or minimal platform, or with no screen, could never be closed.
+    const QString platform = QGuiApplication::platformName();
+    return QGuiApplication::primaryScreen() && platform != QLatin1String("offscreen") &&
+           platform != QLatin1String("minimal");
+}

@@ -28,6 +28,8 @@ inline QString ArrayName(const char *name, int index)
 // Tells screen readers of a result that matters ("Good!", a verdict): the text becomes the
 // widget's accessible description and an alert event carries it, as a label change alone does not.
 void Announce(QWidget *source, const QString &text);
+// Whether a message box can be seen and closed: not on a platform without a screen.
+bool CanShowMessages();
 // Makes a widget's type larger by a factor, for young readers.
 void ScaleFont(QWidget *widget, double factor, bool bold = false);
 // Enter on a focused button presses it, as the space bar does: outside dialogs Qt's buttons
