@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QMargins>
+#include <QRect>
 #include <QString>
 
 class QColor;
@@ -8,8 +10,17 @@ class QKeyEvent;
 class QPushButton;
 class QWidget;
 
-// Puts a window in the middle of its screen: ((screen size - window size) / 2).
+// Puts a window in the middle of its screen: ((screen size - window size) / 2), fitted to the
+// screen's free area first (see FitInto).
 void CentreOnScreen(QWidget *window);
+// Makes a window fit `area` with its frame: where its layout needs more room than there is,
+// its lettering, pictures and spacing shrink (never below half); then it is sized to fit and
+// centred, its title bar never above the area. `frame` is the room the title bar and borders
+// take; without it, the window's own frame, or a typical one before it has been shown.
+void FitInto(QWidget *window, const QRect &area, const QMargins &frame);
+void FitInto(QWidget *window, const QRect &area);
+// How much FitInto has shrunk a window's contents (1 when it did not need to).
+double FitScale(const QWidget *window);
 // A window's first placement: full screen when the pupil chose it (F11), else centred.
 void PlaceOnScreen(QWidget *window);
 // F11: full screen on or off, remembered for the next windows and the next start.

@@ -175,7 +175,9 @@ void frmMenu::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     // Lettering grows with the window, so the buttons read as well on a large screen.
-    const double scale = qBound(1.0, qMin(width() / 1000.0, height() / 700.0), 2.5);
+    // Never larger than the screen allowed (FitScale) on a small or highly scaled screen.
+    const double fit = FitScale(this);
+    const double scale = qBound(fit, qMin(width() / 1000.0, height() / 700.0), 2.5 * fit);
     for (QPushButton *button : std::as_const(m_choices)) {
         QFont font = button->font();
         font.setPointSizeF(15 * scale);
