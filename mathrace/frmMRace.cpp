@@ -181,7 +181,8 @@ void frmMRace::sizeProblem()
 {
     // The problem is what every player must read at a glance, so it grows with the window.
     QFont big = lblProblem->font();
-    big.setPixelSize(qBound(40, height() / 11, 120));
+    // On a small or highly scaled screen it may be smaller (FitScale), so the window fits.
+    big.setPixelSize(qBound(int(40 * FitScale(this)), height() / 11, 120));
     lblProblem->setFont(big);
     txtAnswer->setFont(big);
     txtAnswer->setFixedWidth(QFontMetrics(big).horizontalAdvance(QStringLiteral("00000")) + 40);

@@ -35,16 +35,21 @@ void shrinkContents(QWidget *window, double factor)
     // Set after all are read, so a parent's new font is not scaled again through its children.
     for (const auto &[widget, font] : std::as_const(fonts))
         widget->setFont(font);
-    auto scaled = [factor](const QSize &size) {
-        return QSize(int(size.width() * factor), int(size.height() * factor));
+    // Never below what the widget needs for its (already smaller) lettering and style padding,
+    // or its text would be clipped.
+    auto scaled = [factor](QWidget *widget, const QSize &size) {
+        const QSize hint = qobject_cast<QAbstractButton *>(widget) ? widget->minimumSizeHint()
+                                                                   : QSize(0, 0);
+        return QSize(size.width() > 0 ? qMax(int(size.width() * factor), hint.width()) : 0,
+                     size.height() > 0 ? qMax(int(size.height() * factor), hint.height()) : 0);
     };
     for (QWidget *widget : std::as_const(widgets)) {
         const QSize min = widget->minimumSize();
         const QSize max = widget->maximumSize();
         if (!min.isEmpty() && min == max)
-            widget->setFixedSize(scaled(min));
+            widget->setFixedSize(scaled(widget, min));
         else if (min.width() > 0 || min.height() > 0)
-            widget->setMinimumSize(scaled(min));
+            widget->setMinimumSize(scaled(widget, min));
         if (QLayout *layout = widget->layout()) {
             const QMargins m = layout->contentsMargins();
             layout->setContentsMargins(int(m.left() * factor), int(m.top() * factor),
@@ -61,8 +66,10 @@ void shrinkContents(QWidget *window, double factor)
 
 QSize needed(QWidget *window)
 {
-    if (QLayout *layout = window->layout())
+    if (QLayout *layout = window->layout()) {
+        layout->invalidate();
         layout->activate();
+    }
     return window->minimumSizeHint().expandedTo(window->minimumSize());
 }
 } // namespace
