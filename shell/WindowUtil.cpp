@@ -163,20 +163,25 @@ bool PressFocusedButton(QWidget *window, QKeyEvent *event)
     return true;
 }
 
-void StyleBrightButton(QPushButton *button, const QColor &colour, int radius)
+QString BrightButtonStyle(const QString &selector, const QColor &colour, int radius)
 {
     const bool darkText = colour.lightness() > 150;
-    button->setStyleSheet(
-        QStringLiteral("QPushButton { background: %1; color: %2; border: 3px solid %3;"
-                       " border-radius: %5px; padding: 6px 14px; }"
-                       "QPushButton:hover { background: %4; }"
-                       "QPushButton:pressed { background: %3; padding-top: 9px; }"
-                       "QPushButton:focus { border: 5px solid #FFD600; }"
-                       "QPushButton:disabled { background: #CFD8DC; color: #78909C;"
-                       " border-color: #B0BEC5; }")
-            .arg(colour.name(), darkText ? QStringLiteral("#212121") : QStringLiteral("white"),
-                 colour.darker(140).name(), colour.lighter(115).name())
-            .arg(radius));
+    return QStringLiteral("%6 { background: %1; color: %2; border: 3px solid %3;"
+                          " border-radius: %5px; padding: 6px 14px; }"
+                          "%6:hover { background: %4; }"
+                          "%6:pressed { background: %3; padding-top: 9px; }"
+                          "%6:focus { border: 5px solid #FFD600; }"
+                          "%6:disabled { background: #CFD8DC; color: #78909C;"
+                          " border-color: #B0BEC5; }")
+        .arg(colour.name(), darkText ? QStringLiteral("#212121") : QStringLiteral("white"),
+             colour.darker(140).name(), colour.lighter(115).name())
+        .arg(radius)
+        .arg(selector);
+}
+
+void StyleBrightButton(QPushButton *button, const QColor &colour, int radius)
+{
+    button->setStyleSheet(BrightButtonStyle(QStringLiteral("QPushButton"), colour, radius));
 }
 
 void Announce(QWidget *source, const QString &text)

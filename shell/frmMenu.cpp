@@ -73,6 +73,9 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
     QFont choiceFont(QStringLiteral("Comic Sans MS"));
     choiceFont.setPointSize(15);
     choiceFont.setBold(true);
+    // One sheet for all fifteen buttons: read and applied once, which the menu's first
+    // paint feels.
+    QString buttonStyles;
     auto *grid = new QGridLayout;
     grid->setSpacing(12);
     for (int i = 0; i < ChoiceCount; ++i) {
@@ -87,11 +90,13 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
         button->setEnabled(entry != m_activities.cend() && entry->open);
         if (!button->isEnabled())
             button->setToolTip(tr("This activity is not in this version yet."));
-        StyleBrightButton(button, QColor(ButtonColours[i]), 14);
+        buttonStyles += BrightButtonStyle(u'#' + button->objectName(), QColor(ButtonColours[i]), 14);
         connect(button, &QPushButton::clicked, this, [this, i] { openActivity(i); });
         grid->addWidget(button, i / Columns, i % Columns);
         m_choices.append(button);
     }
+
+    setStyleSheet(buttonStyles);
 
     cmdHelp = Named(new QPushButton(tr("&Help"), this), QStringLiteral("cmdHelp"));
     cmdSound = Named(new QPushButton(this), QStringLiteral("cmdSound"));
@@ -180,6 +185,8 @@ void frmMenu::resizeEvent(QResizeEvent *event)
     const double scale = qBound(fit, qMin(width() / 1000.0, height() / 700.0), 2.5 * fit);
     for (QPushButton *button : std::as_const(m_choices)) {
         QFont font = button->font();
+        if (qFuzzyCompare(font.pointSizeF(), 15 * scale))
+            continue; // an unchanged font would still re-lay the buttons out
         font.setPointSizeF(15 * scale);
         button->setFont(font);
     }
