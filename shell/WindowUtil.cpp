@@ -64,10 +64,12 @@ void shrinkContents(QWidget *window, double factor)
     }
 }
 
-QSize needed(QWidget *window)
+// The least room the window's layout needs; `changed` after fonts and sizes were scaled.
+QSize needed(QWidget *window, bool changed)
 {
     if (QLayout *layout = window->layout()) {
-        layout->invalidate();
+        if (changed)
+            layout->invalidate();
         layout->activate();
     }
     return window->minimumSizeHint().expandedTo(window->minimumSize());
@@ -91,8 +93,11 @@ void FitInto(QWidget *window, const QRect &area, const QMargins &frame)
 {
     const QSize room = area.size().shrunkBy(frame);
     double scale = FitScale(window);
+    // Measured once when it fits, as it does on most screens: this runs before every first paint.
+    QSize need = needed(window, false);
     for (int round = 0; round < 8 && scale > 0.5; ++round) {
-        const QSize need = needed(window);
+        if (round > 0)
+            need = needed(window, true);
         if (need.width() <= room.width() && need.height() <= room.height())
             break;
         const double factor =
@@ -101,8 +106,10 @@ void FitInto(QWidget *window, const QRect &area, const QMargins &frame)
         shrinkContents(window, qMin(factor, 0.97));
         scale *= qMin(factor, 0.97);
     }
+    if (scale < FitScale(window))
+        need = needed(window, true);
     window->setProperty(FitScaleProperty, scale);
-    const QSize size = window->size().boundedTo(room).expandedTo(needed(window).boundedTo(room));
+    const QSize size = window->size().boundedTo(room).expandedTo(need.boundedTo(room));
     const QSize outer = size.grownBy(frame);
     // The inside of the window is placed, so the title bar lands inside the area too.
     window->setGeometry(QRect(QPoint(area.left() + qMax(0, (area.width() - outer.width()) / 2) +
