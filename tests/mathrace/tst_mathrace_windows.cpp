@@ -21,6 +21,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QTextDocument>
 
 // The race window and the options window, driven as a pupil would with keys and clicks.
@@ -412,6 +413,15 @@ void tst_mathrace_windows::optionsTakeEffectAsMade()
             !opt->optType[5]->isChecked() || opt->lblMax[0]->text() != QLatin1String("5") ||
             !opt->optClock[3]->isChecked() || opt->hsbMax[0]->minimum() != 1 ||
             opt->hsbMax[0]->maximum() != optMRace::LargestMax)
+            return int(QDialog::Rejected);
+        // A teacher decides the number of players first: it comes first in the tab order,
+        // and the largest number moves by a whole times table at a time.
+        QWidget *first = opt->nextInFocusChain();
+        while (first != opt && !(first->focusPolicy() & Qt::TabFocus))
+            first = first->nextInFocusChain();
+        opt->layout()->activate();
+        if (first != opt->optPlayers[0] || opt->hsbMax[0]->pageStep() != 12 ||
+            opt->findChild<QWidget *>("fraPlayers")->y() >= opt->Frame2[0]->y())
             return int(QDialog::Rejected);
         opt->optPlayers[3]->click();
         opt->optType[7]->click();
