@@ -222,11 +222,12 @@ void frmThief::buildControls()
     caseLayout->addWidget(cmdCancelCN, 2, 1);
 
     fraAccuse = makeFrame(tr("Accuse a Suspect"), QStringLiteral("fraAccuse"), this);
-    auto *accuseLayout = new QVBoxLayout(fraAccuse);
+    // Two to a row, so the desk stays short enough for a small or highly scaled screen.
+    auto *accuseLayout = new QGridLayout(fraAccuse);
     for (int i = 0; i < Case::Suspects; ++i) {
         auto *button = makeButton(QString(), ArrayName("cmdSuspect", i), "#EF6C00", fraAccuse);
         connect(button, &QPushButton::clicked, this, [this, i] { cmdSuspect_Click(i); });
-        accuseLayout->addWidget(button);
+        accuseLayout->addWidget(button, i / 2, i % 2, 1, i == Case::Suspects - 1 && i % 2 == 0 ? 2 : 1);
         cmdSuspect.append(button);
     }
 
