@@ -197,7 +197,9 @@ QSize RaceTrack::sizeHint() const
 
 QSize RaceTrack::minimumSizeHint() const
 {
-    return {480, 200};
+    // In step with the lettering, so the track can shrink with it on a small screen.
+    const int line = fontMetrics().height();
+    return {line * 24, line * 10};
 }
 
 void RaceTrack::paintEvent(QPaintEvent *)

@@ -181,7 +181,8 @@ void frmMRace::sizeProblem()
 {
     // The problem is what every player must read at a glance, so it grows with the window.
     QFont big = lblProblem->font();
-    big.setPixelSize(qBound(40, height() / 11, 120));
+    // On a small or highly scaled screen it may be smaller (FitScale), so the window fits.
+    big.setPixelSize(qBound(int(40 * FitScale(this)), height() / 11, 120));
     lblProblem->setFont(big);
     txtAnswer->setFont(big);
     txtAnswer->setFixedWidth(QFontMetrics(big).horizontalAdvance(QStringLiteral("00000")) + 40);
@@ -288,6 +289,7 @@ void frmMRace::timer1Tick()
         Timer1->stop();
         PlaySound(m_uhOhSound, SND_SYNC);
         lblMessage->setText(QStringLiteral("Sorry ...\nHere's the answer .."));
+        Announce(lblMessage, tr("Sorry. The answer is %1.").arg(m_race.problem().answer));
         // The answer stays on show to be read, not typed over or sent as the player's own.
         txtAnswer->setReadOnly(true);
         txtAnswer->setText(QString::number(m_race.problem().answer));
@@ -315,6 +317,7 @@ void frmMRace::onAnswer()
     Timer1->stop();
     const int player = m_race.currentPlayer();
     lblMessage->setText(QStringLiteral("\nGood!"));
+    Announce(lblMessage, tr("Good!"));
     PlaySound(m_carSound, SND_ASYNC);
     picTrack->setPosition(player, m_race.position(player));
     if (m_race.hasFinished(player))
@@ -362,6 +365,8 @@ void frmMRace::stopRace()
     cmdErase->setEnabled(false);
     cmdOK->setEnabled(false);
     lblMessage->setText(QStringLiteral("\nGame Over\n"));
+    // A stopped race has no fuel to show.
+    pnlGas->setPercent(0);
     cmdNew->setFocus();
 }
 

@@ -36,6 +36,7 @@ QFont BaseFont(double scale = 1, bool bold = false)
 QLabel *Heading(const QString &text, QWidget *parent)
 {
     auto *label = new QLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
     label->setFont(BaseFont(1, true));
     // Through the palette, so a heading greys out with its frame.
     QPalette colours = label->palette();
@@ -96,15 +97,13 @@ optMRace::optMRace(QWidget *parent) : QDialog(parent)
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
     auto *layout = new QVBoxLayout(this);
-    // The count of players sits beside OK, keeping the window short enough for small screens.
-    auto *bottom = new QHBoxLayout;
-    bottom->setSpacing(16);
-    bottom->addWidget(playersBox, 1);
-    bottom->addWidget(cmdOK, 0, Qt::AlignBottom);
+    // The count of players comes first, at the top and first in the tab order: a teacher
+    // decides it before anything else.
     layout->setContentsMargins(14, 8, 14, 12);
     layout->setSpacing(8);
+    layout->addWidget(playersBox);
     layout->addLayout(grid, 1);
-    layout->addLayout(bottom);
+    layout->addWidget(cmdOK, 0, Qt::AlignRight);
 
     // Style sheets break the passing of fonts from frame to contents; give each its own.
     const auto children = findChildren<QWidget *>();
@@ -142,7 +141,8 @@ QGroupBox *optMRace::makePlayerFrame(int player)
     auto *bar = Named(new QScrollBar(Qt::Horizontal, frame), ArrayName("hsbMax", player));
     bar->setRange(LargestMin, LargestMax);
     bar->setSingleStep(1);
-    bar->setPageStep(10);
+    // Big steps: a click beside the handle or Page Up moves a whole times table.
+    bar->setPageStep(12);
     bar->setMinimumWidth(150);
     bar->setFocusPolicy(Qt::StrongFocus);
     // Right, Up and the wheel turned up make the number bigger.
@@ -150,6 +150,7 @@ QGroupBox *optMRace::makePlayerFrame(int player)
     bar->setAccessibleName(tr("Largest number for player %1").arg(player + 1));
     hsbMax.append(bar);
     auto *value = Named(new QLabel(frame), ArrayName("lblMax", player));
+    value->setTextFormat(Qt::PlainText);
     value->setFont(BaseFont(1.3, true));
     value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     value->setMinimumWidth(value->fontMetrics().horizontalAdvance(QStringLiteral("0000")));
@@ -163,7 +164,15 @@ QGroupBox *optMRace::makePlayerFrame(int player)
     clockColumn->addSpacing(6);
     clockColumn->addWidget(Heading(tr("Largest number"), frame));
     auto *barRow = new QHBoxLayout;
+    // The ends are labelled, so a young pupil sees which way is bigger.
+    auto *low = Named(new QLabel(QString::number(LargestMin), frame), ArrayName("lblMaxLow", player));
+    auto *high = Named(new QLabel(QString::number(LargestMax), frame), ArrayName("lblMaxHigh", player));
+    for (QLabel *end : {low, high})
+        end->setTextFormat(Qt::PlainText);
+    barRow->addWidget(low);
     barRow->addWidget(bar, 1);
+    barRow->addWidget(high);
+    barRow->addSpacing(8);
     barRow->addWidget(value);
     clockColumn->addLayout(barRow);
     clockColumn->addStretch();

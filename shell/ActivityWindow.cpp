@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ActivityWindow.h"
 
+#include "Accessibility.h"
+#include "Fonts.h"
 #include "shell/core/Random.h"
 #include "Services.h"
 #include "WindowUtil.h"
@@ -14,6 +16,7 @@ ActivityWindow::ActivityWindow(const QString &helpTopic, QWidget *parent)
     : QWidget(parent, Qt::Window), m_helpTopic(helpTopic)
 {
     setAttribute(Qt::WA_DeleteOnClose);
+    InstallAccessibility();
     RandomizeFromClock();
 }
 
@@ -41,9 +44,7 @@ void ActivityWindow::replaceWith(ActivityWindow *next)
 
 void ActivityWindow::applyLook(const QColor &background)
 {
-    QFont base(QStringLiteral("Comic Sans MS"));
-    base.setPointSize(14);
-    setFont(base);
+    setFont(FriendlyFont(14));
     setAutoFillBackground(true);
     QPalette colours = palette();
     colours.setColor(QPalette::Window, background);

@@ -17,3 +17,10 @@ void InstallFontSubstitutes()
     for (const auto &entry : table)
         QFont::insertSubstitution(QLatin1String(entry.wanted), QLatin1String(entry.substitute));
 }
+
+QFont FriendlyFont(double pointSize)
+{
+    QFont font(QStringLiteral("Comic Sans MS"));
+    font.setPointSizeF(pointSize);
+    return font;
+}

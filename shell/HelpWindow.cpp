@@ -17,6 +17,7 @@ HelpWindow::HelpWindow(QWidget *parent) : QWidget(parent, Qt::Window)
     setWindowTitle(tr("Lumbridle Help"));
     m_browser = new QTextBrowser(this);
     m_browser->setObjectName(QStringLiteral("txtHelp"));
+    m_browser->setAccessibleName(tr("Help page"));
     m_browser->setOpenExternalLinks(false);
     m_browser->setSearchPaths({DataPath() + QStringLiteral("help")});
     QFont font = m_browser->font();
@@ -27,7 +28,7 @@ HelpWindow::HelpWindow(QWidget *parent) : QWidget(parent, Qt::Window)
     m_contents->setObjectName(QStringLiteral("cmdContents"));
     m_back = new QPushButton(tr("&Back"), this);
     m_back->setObjectName(QStringLiteral("cmdBack"));
-    auto *close = new QPushButton(tr("&Close"), this);
+    auto *close = new QPushButton(tr("Cl&ose"), this);
     close->setObjectName(QStringLiteral("cmdClose"));
     connect(m_contents, &QPushButton::clicked, this, [this] { showTopic(QString()); });
     connect(m_back, &QPushButton::clicked, m_browser, &QTextBrowser::backward);

@@ -5,7 +5,10 @@
 #include "Preferences.h"
 #include "Printing.h"
 #include "SoundBackend.h"
+#include "WindowUtil.h"
+#include "shell/core/WaveFile.h"
 
+#include <cstdio>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -15,7 +18,6 @@
 #include <QLoggingCategory>
 #include <QPrinter>
 #include <QPrintPreviewDialog>
-#include <QtEndian>
 #include <QThread>
 #include <QToolBar>
 #include <QUrl>
@@ -65,9 +67,16 @@ void QtSound::play(const QString &file, bool wait)
 {
     if (Preferences::get().muted || !QFileInfo::exists(file) || !backend())
         return;
+    // The wait itself belongs to PlaySound, which asks length().
+    Q_UNUSED(wait);
     m_backend->play(file);
-    if (wait)
-        Services::clock().delay(waveSeconds(file));
+}
+
+double QtSound::length(const QString &file)
+{
+    if (Preferences::get().muted || !m_backend)
+        return 0;
+    return waveSeconds(file);
 }
 
 void QtSound::beep()
@@ -78,24 +87,7 @@ void QtSound::beep()
 
 double QtSound::waveSeconds(const QString &file)
 {
-    QFile in(file);
-    if (!in.open(QIODevice::ReadOnly))
-        return 0;
-    const QByteArray head = in.read(4096);
-    if (head.size() < 12 || !head.startsWith("RIFF") || head.mid(8, 4) != "WAVE")
-        return 0;
-    quint32 byteRate = 0;
-    qsizetype pos = 12;
-    while (pos + 8 <= head.size()) {
-        const QByteArray id = head.mid(pos, 4);
-        const quint32 size = qFromLittleEndian<quint32>(head.constData() + pos + 4);
-        if (id == "fmt " && pos + 16 <= head.size())
-            byteRate = qFromLittleEndian<quint32>(head.constData() + pos + 16);
-        if (id == "data")
-            return byteRate ? double(size) / byteRate : 0;
-        pos += 8 + size + (size & 1);
-    }
-    return 0;
+    return WaveFile::seconds(file);
 }
 
 void SystemClock::delay(double seconds)
@@ -117,7 +109,19 @@ void SystemClock::delay(double seconds)
 
 QMessageBox::StandardButton QtDialogs::message(QWidget *parent, const MessageRequest &request)
 {
+    if (!CanShowMessages()) {
+        // Nobody could close the box: say it where it can be read and go on as if closed.
+        std::fprintf(stderr, "lumbridle: %s: %s\n", qPrintable(request.title),
+                     qPrintable(request.text));
+        if (request.buttons.testFlag(QMessageBox::Cancel))
+            return QMessageBox::Cancel;
+        return request.defaultButton != QMessageBox::NoButton ? request.defaultButton
+                                                              : QMessageBox::Ok;
+    }
     QMessageBox box(request.icon, request.title, request.text, request.buttons, parent);
+    box.setTextFormat(Qt::PlainText);
+    if (!request.details.isEmpty())
+        box.setDetailedText(request.details);
     if (request.defaultButton != QMessageBox::NoButton)
         box.setDefaultButton(request.defaultButton);
     return QMessageBox::StandardButton(box.exec());

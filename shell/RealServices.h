@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Services.h"
+#include "ServiceInterfaces.h"
 
 #include <QElapsedTimer>
 #include <QHash>
@@ -21,6 +21,8 @@ public:
     void stop() override;
     void play(const QString &file, bool wait) override;
     void beep() override;
+    // 0 when nothing will be heard (muted, no device, no file), else the file's length.
+    double length(const QString &file) override;
 
     // Length of a PCM wave file in seconds, 0 when it cannot be read.
     static double waveSeconds(const QString &file);
@@ -34,7 +36,7 @@ private:
     bool m_loaded = false;
 };
 
-// Real time for pauses and tick counts.
+// Real time for pauses and tick counts. The pause handles nothing while it waits.
 class SystemClock final : public ClockService {
 public:
     SystemClock() { m_started.start(); }

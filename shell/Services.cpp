@@ -3,6 +3,9 @@
 
 #include "RealServices.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
 namespace {
 SoundService *soundOverride = nullptr;
 ClockService *clockOverride = nullptr;
@@ -60,7 +63,11 @@ void PlaySound(const QString &file, qint16 flags)
     if (file.isEmpty())
         return;
     Services::sound().stop();
-    Services::sound().play(file, flags == SND_SYNC);
+    const bool wait = flags == SND_SYNC;
+    Services::sound().play(file, wait);
+    // Waiting for a sound is a pause like any other: the same frozen screen, the same dropped keys.
+    if (const double length = wait ? Services::sound().length(file) : 0; length > 0)
+        Delay(float(length));
 }
 
 void StopSound()
@@ -76,6 +83,51 @@ void Beep()
 void Delay(float seconds)
 {
     Services::clock().delay(seconds);
+    if (seconds > 0)
+        DropQueuedInput();
+}
+
+namespace {
+// Swallows input events while it is installed on the application.
+class InputDropper final : public QObject {
+public:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        switch (event->type()) {
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::ShortcutOverride:
+        case QEvent::Shortcut:
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
+        case QEvent::ContextMenu:
+        case QEvent::TouchBegin:
+        case QEvent::TouchUpdate:
+        case QEvent::TouchEnd:
+        case QEvent::TabletPress:
+        case QEvent::TabletRelease:
+            return true;
+        default:
+            return false;
+        }
+    }
+};
+} // namespace
+
+void DropQueuedInput()
+{
+    if (!QCoreApplication::instance())
+        return;
+    InputDropper dropper;
+    QCoreApplication::instance()->installEventFilter(&dropper);
+    // Timers stay queued: a clock tick must not run in the middle of the caller's turn. Input is
+    // read from the window system in one pass and delivered in the next, hence several.
+    for (int pass = 0; pass < 3; ++pass)
+        QCoreApplication::processEvents(QEventLoop::X11ExcludeTimers |
+                                        QEventLoop::ExcludeSocketNotifiers);
+    QCoreApplication::instance()->removeEventFilter(&dropper);
 }
 
 qint64 TickCount()
@@ -89,6 +141,11 @@ QMessageBox::StandardButton MsgBox(QWidget *parent, const QString &title, const 
 {
     return Services::dialogs().message(parent,
                                        MessageRequest{title, text, icon, buttons, defaultButton});
+}
+
+QMessageBox::StandardButton MsgBox(QWidget *parent, const MessageRequest &request)
+{
+    return Services::dialogs().message(parent, request);
 }
 
 void ShowHelp(QWidget *parent, const QString &topic)

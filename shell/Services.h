@@ -1,66 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QMessageBox>
-#include <QString>
-
-class PrintDocument;
-class QDialog;
-class QWidget;
-
-// The process-wide services every window reaches through the plain functions below. Each has
-// a real implementation and a test double; tests install theirs with Services::install.
-
-// Plays wave files: stop the current sound, play a file to its end or in the background.
-class SoundService {
-public:
-    virtual ~SoundService() = default;
-    virtual void stop() = 0;
-    virtual void play(const QString &file, bool wait) = 0;
-    virtual void beep() = 0;
-};
-
-// Milliseconds since some start, and a pause that shows the latest screen and then waits
-// without handling input or timers.
-class ClockService {
-public:
-    virtual ~ClockService() = default;
-    virtual qint64 ticks() = 0;
-    virtual void delay(double seconds) = 0;
-};
-
-// What a message box says and offers.
-struct MessageRequest {
-    QString title;
-    QString text;
-    QMessageBox::Icon icon = QMessageBox::Information;
-    QMessageBox::StandardButtons buttons = QMessageBox::Ok;
-    QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;
-};
-
-// Message boxes and the standard file and print dialogs.
-class DialogService {
-public:
-    virtual ~DialogService() = default;
-    virtual QMessageBox::StandardButton message(QWidget *parent, const MessageRequest &request) = 0;
-    virtual QString openFileName(QWidget *parent, const QString &caption, const QString &folder,
-                                 const QString &filter) = 0;
-    virtual QString saveFileName(QWidget *parent, const QString &caption, const QString &folder,
-                                 const QString &filter) = 0;
-    // Shows the document in a print preview from which it can be printed or saved as PDF;
-    // returns false when the user closes it without printing.
-    virtual bool print(QWidget *parent, const PrintDocument &document) = 0;
-    // Shows a window of ours modally (results, word entry, options) and returns its result.
-    virtual int run(QDialog &dialog) = 0;
-};
-
-// The help window: a topic of one activity, or the contents page.
-class HelpService {
-public:
-    virtual ~HelpService() = default;
-    virtual void showTopic(QWidget *parent, const QString &topic) = 0;
-    virtual void showContents(QWidget *parent) = 0;
-};
+#include "ServiceInterfaces.h"
 
 namespace Services {
 // Installing nullptr puts the real implementation back. The caller keeps ownership.
@@ -84,14 +25,19 @@ inline constexpr qint16 SND_ASYNC = 1;
 void PlaySound(const QString &file, qint16 flags);
 void StopSound();
 void Beep();
-// Pauses for the given seconds, showing the latest state of the screen first.
+// Pauses for the given seconds, showing the latest state of the screen first. Keys and clicks
+// that arrived during the pause are dropped when it ends, so a double press cannot act on what
+// comes next.
 void Delay(float seconds);
+// Drops the keys and clicks waiting to be handled; nothing else is handled or lost.
+void DropQueuedInput();
 qint64 TickCount();
 
 QMessageBox::StandardButton
 MsgBox(QWidget *parent, const QString &title, const QString &text, QMessageBox::Icon icon,
        QMessageBox::StandardButtons buttons = QMessageBox::Ok,
        QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
+QMessageBox::StandardButton MsgBox(QWidget *parent, const MessageRequest &request);
 void ShowHelp(QWidget *parent, const QString &topic);
 void ShowHelpContents(QWidget *parent);
 bool PrintWithPreview(QWidget *parent, const PrintDocument &document);

@@ -9,6 +9,7 @@
 #include "shell/core/SettingsStore.h"
 
 #include <csignal>
+#include <cstdio>
 #include <QApplication>
 #include <QDir>
 #include <QIcon>
@@ -61,6 +62,9 @@ QString UsageText()
 bool PrepareStart(const QString &dataDir)
 {
     InstallFontSubstitutes();
+    // One friendly face for everything: the same lettering in every window, and one font
+    // fewer to find and load before the menu's first paint.
+    QApplication::setFont(FriendlyFont(QApplication::font().pointSizeF()));
     if (dataDir.isEmpty()) {
         const DataLocation location = LocateData(QCoreApplication::applicationDirPath());
         SetDataPath(location.folder);
@@ -79,9 +83,14 @@ bool PrepareStart(const QString &dataDir)
 
     FileError error;
     if (!SettingsStore::load(&error)) {
-        qCCritical(lcShell).noquote() << error.message();
-        MsgBox(nullptr, QStringLiteral("Lumbridle"),
-               QString::fromLatin1(SettingsFile::BrokenMessage), QMessageBox::Critical);
+        // Written first and always: with no screen to show the box on, this is all anyone sees.
+        std::fprintf(stderr, "lumbridle: %s\nlumbridle: %s\n", SettingsFile::BrokenMessage,
+                     qPrintable(error.message()));
+        std::fflush(stderr);
+        MsgBox(nullptr, MessageRequest{QStringLiteral("Lumbridle"),
+                                           QString::fromLatin1(SettingsFile::BrokenMessage),
+                                           QMessageBox::Critical, QMessageBox::Ok,
+                                           QMessageBox::NoButton, error.message()});
         return false;
     }
     return true;

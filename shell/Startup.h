@@ -18,6 +18,8 @@ QString UsageText();
 // Everything before the menu appears: fonts, the data folder, our preferences and the settings
 // file. A missing or damaged settings file shows "File missing/incomplete - Reinstall program"
 // and returns false, with no value substituted.
+// The message and its reason (with the file's full path) also go to standard error, and the box
+// is shown only where someone can close it.
 bool PrepareStart(const QString &dataDir);
 
 class QWidget;

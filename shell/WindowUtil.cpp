@@ -8,27 +8,141 @@
 #include <QAccessibleEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QPushButton>
 #include <QScreen>
 #include <QWidget>
+
+namespace {
+constexpr const char *FitScaleProperty = "lumbridleFitScale";
+
+// Scales every explicitly set font, minimum and fixed size and layout spacing by `factor`.
+void shrinkContents(QWidget *window, double factor)
+{
+    QList<QWidget *> widgets = window->findChildren<QWidget *>();
+    widgets.prepend(window);
+    QList<QPair<QWidget *, QFont>> fonts;
+    for (QWidget *widget : std::as_const(widgets)) {
+        if (widget != window && !widget->testAttribute(Qt::WA_SetFont))
+            continue;
+        QFont font = widget->font();
+        if (font.pointSizeF() > 0)
+            font.setPointSizeF(qMax(6.0, font.pointSizeF() * factor));
+        else if (font.pixelSize() > 0)
+            font.setPixelSize(qMax(8, int(font.pixelSize() * factor)));
+        fonts.append({widget, font});
+    }
+    // Set after all are read, so a parent's new font is not scaled again through its children.
+    for (const auto &[widget, font] : std::as_const(fonts))
+        widget->setFont(font);
+    // Never below what the widget needs for its (already smaller) lettering and style padding,
+    // or its text would be clipped.
+    auto scaled = [factor](QWidget *widget, const QSize &size) {
+        const QSize hint = qobject_cast<QAbstractButton *>(widget) ? widget->minimumSizeHint()
+                                                                   : QSize(0, 0);
+        return QSize(size.width() > 0 ? qMax(int(size.width() * factor), hint.width()) : 0,
+                     size.height() > 0 ? qMax(int(size.height() * factor), hint.height()) : 0);
+    };
+    for (QWidget *widget : std::as_const(widgets)) {
+        const QSize min = widget->minimumSize();
+        const QSize max = widget->maximumSize();
+        if (!min.isEmpty() && min == max)
+            widget->setFixedSize(scaled(widget, min));
+        else if (min.width() > 0 || min.height() > 0)
+            widget->setMinimumSize(scaled(widget, min));
+        if (QLayout *layout = widget->layout()) {
+            const QMargins m = layout->contentsMargins();
+            layout->setContentsMargins(int(m.left() * factor), int(m.top() * factor),
+                                       int(m.right() * factor), int(m.bottom() * factor));
+            const auto layouts = layout->findChildren<QLayout *>();
+            for (QLayout *inner : layouts)
+                if (inner->spacing() > 0)
+                    inner->setSpacing(int(inner->spacing() * factor));
+            if (layout->spacing() > 0)
+                layout->setSpacing(int(layout->spacing() * factor));
+        }
+    }
+}
+
+// The least room the window's layout needs; `changed` after fonts and sizes were scaled.
+QSize needed(QWidget *window, bool changed)
+{
+    if (QLayout *layout = window->layout()) {
+        if (changed)
+            layout->invalidate();
+        layout->activate();
+    }
+    return window->minimumSizeHint().expandedTo(window->minimumSize());
+}
+} // namespace
+
+void FitInto(QWidget *window, const QRect &area)
+{
+    QMargins frame;
+    if (window->isVisible())
+        frame = QMargins(window->geometry().left() - window->frameGeometry().left(),
+                         window->geometry().top() - window->frameGeometry().top(),
+                         window->frameGeometry().right() - window->geometry().right(),
+                         window->frameGeometry().bottom() - window->geometry().bottom());
+    if (frame.isNull() && QGuiApplication::platformName() != QLatin1String("offscreen"))
+        frame = QMargins(4, 34, 4, 4); // a typical title bar, before the real one is known
+    FitInto(window, area, frame);
+}
+
+void FitInto(QWidget *window, const QRect &area, const QMargins &frame)
+{
+    const QSize room = area.size().shrunkBy(frame);
+    double scale = FitScale(window);
+    // Measured once when it fits, as it does on most screens: this runs before every first paint.
+    QSize need = needed(window, false);
+    for (int round = 0; round < 8 && scale > 0.5; ++round) {
+        if (round > 0)
+            need = needed(window, true);
+        if (need.width() <= room.width() && need.height() <= room.height())
+            break;
+        const double factor =
+            qMax(0.5 / scale, 0.96 * qMin(double(room.width()) / need.width(),
+                                          double(room.height()) / need.height()));
+        shrinkContents(window, qMin(factor, 0.97));
+        scale *= qMin(factor, 0.97);
+    }
+    if (scale < FitScale(window))
+        need = needed(window, true);
+    window->setProperty(FitScaleProperty, scale);
+    const QSize size = window->size().boundedTo(room).expandedTo(need.boundedTo(room));
+    const QSize outer = size.grownBy(frame);
+    // The inside of the window is placed, so the title bar lands inside the area too.
+    window->setGeometry(QRect(QPoint(area.left() + qMax(0, (area.width() - outer.width()) / 2) +
+                                         frame.left(),
+                                     area.top() + qMax(0, (area.height() - outer.height()) / 2) +
+                                         frame.top()),
+                              size));
+}
+
+double FitScale(const QWidget *window)
+{
+    const QVariant scale = window->property(FitScaleProperty);
+    return scale.isValid() ? scale.toDouble() : 1.0;
+}
 
 void CentreOnScreen(QWidget *window)
 {
     QScreen *screen = window->screen() ? window->screen() : QGuiApplication::primaryScreen();
     if (!screen)
         return;
-    const QRect area = screen->availableGeometry();
-    const QSize size = window->frameGeometry().size();
-    window->move(area.left() + (area.width() - size.width()) / 2,
-                 area.top() + (area.height() - size.height()) / 2);
+    FitInto(window, screen->availableGeometry());
 }
 
 void PlaceOnScreen(QWidget *window)
 {
-    if (Preferences::get().fullScreen)
+    if (Preferences::get().fullScreen) {
+        // Full screen has no more room than the screen: the contents must fit it too.
+        if (QScreen *screen = window->screen() ? window->screen() : QGuiApplication::primaryScreen())
+            FitInto(window, screen->geometry(), QMargins(0, 0, 0, 0));
         window->setWindowState(window->windowState() | Qt::WindowFullScreen);
-    else
+    } else {
         CentreOnScreen(window);
+    }
 }
 
 void ToggleFullScreen(QWidget *window)
@@ -56,20 +170,25 @@ bool PressFocusedButton(QWidget *window, QKeyEvent *event)
     return true;
 }
 
-void StyleBrightButton(QPushButton *button, const QColor &colour, int radius)
+QString BrightButtonStyle(const QString &selector, const QColor &colour, int radius)
 {
     const bool darkText = colour.lightness() > 150;
-    button->setStyleSheet(
-        QStringLiteral("QPushButton { background: %1; color: %2; border: 3px solid %3;"
-                       " border-radius: %5px; padding: 6px 14px; }"
-                       "QPushButton:hover { background: %4; }"
-                       "QPushButton:pressed { background: %3; padding-top: 9px; }"
-                       "QPushButton:focus { border: 5px solid #FFD600; }"
-                       "QPushButton:disabled { background: #CFD8DC; color: #78909C;"
-                       " border-color: #B0BEC5; }")
-            .arg(colour.name(), darkText ? QStringLiteral("#212121") : QStringLiteral("white"),
-                 colour.darker(140).name(), colour.lighter(115).name())
-            .arg(radius));
+    return QStringLiteral("%6 { background: %1; color: %2; border: 3px solid %3;"
+                          " border-radius: %5px; padding: 6px 14px; }"
+                          "%6:hover { background: %4; }"
+                          "%6:pressed { background: %3; padding-top: 9px; }"
+                          "%6:focus { border: 5px solid #FFD600; }"
+                          "%6:disabled { background: #CFD8DC; color: #78909C;"
+                          " border-color: #B0BEC5; }")
+        .arg(colour.name(), darkText ? QStringLiteral("#212121") : QStringLiteral("white"),
+             colour.darker(140).name(), colour.lighter(115).name())
+        .arg(radius)
+        .arg(selector);
+}
+
+void StyleBrightButton(QPushButton *button, const QColor &colour, int radius)
+{
+    button->setStyleSheet(BrightButtonStyle(QStringLiteral("QPushButton"), colour, radius));
 }
 
 void Announce(QWidget *source, const QString &text)
@@ -77,4 +196,12 @@ void Announce(QWidget *source, const QString &text)
     source->setAccessibleDescription(text);
     QAccessibleEvent alert(source, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+bool CanShowMessages()
+{
+    // A box on the offscreen or minimal platform, or with no screen, could never be closed.
+    const QString platform = QGuiApplication::platformName();
+    return QGuiApplication::primaryScreen() && platform != QLatin1String("offscreen") &&
+           platform != QLatin1String("minimal");
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QMargins>
+#include <QRect>
 #include <QString>
 
 class QColor;
@@ -8,8 +10,17 @@ class QKeyEvent;
 class QPushButton;
 class QWidget;
 
-// Puts a window in the middle of its screen: ((screen size - window size) / 2).
+// Puts a window in the middle of its screen: ((screen size - window size) / 2), fitted to the
+// screen's free area first (see FitInto).
 void CentreOnScreen(QWidget *window);
+// Makes a window fit `area` with its frame: where its layout needs more room than there is,
+// its lettering, pictures and spacing shrink (never below half); then it is sized to fit and
+// centred, its title bar never above the area. `frame` is the room the title bar and borders
+// take; without it, the window's own frame, or a typical one before it has been shown.
+void FitInto(QWidget *window, const QRect &area, const QMargins &frame);
+void FitInto(QWidget *window, const QRect &area);
+// How much FitInto has shrunk a window's contents (1 when it did not need to).
+double FitScale(const QWidget *window);
 // A window's first placement: full screen when the pupil chose it (F11), else centred.
 void PlaceOnScreen(QWidget *window);
 // F11: full screen on or off, remembered for the next windows and the next start.
@@ -28,6 +39,8 @@ inline QString ArrayName(const char *name, int index)
 // Tells screen readers of a result that matters ("Good!", a verdict): the text becomes the
 // widget's accessible description and an alert event carries it, as a label change alone does not.
 void Announce(QWidget *source, const QString &text);
+// Whether a message box can be seen and closed: not on a platform without a screen.
+bool CanShowMessages();
 // Makes a widget's type larger by a factor, for young readers.
 void ScaleFont(QWidget *widget, double factor, bool bold = false);
 // Enter on a focused button presses it, as the space bar does: outside dialogs Qt's buttons
@@ -36,3 +49,6 @@ bool PressFocusedButton(QWidget *window, QKeyEvent *event);
 // The bright, rounded look of the program's big buttons: a strong colour, lettering that
 // stays readable on it, a thick yellow ring when focused and grey when disabled.
 void StyleBrightButton(QPushButton *button, const QColor &colour, int radius = 12);
+// The same look as style sheet text for the buttons `selector` picks ("#cmdChoice_3"), so a
+// window of many such buttons can style them all with one sheet, read once.
+QString BrightButtonStyle(const QString &selector, const QColor &colour, int radius = 12);

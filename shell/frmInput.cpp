@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmInput.h"
 
+#include "Fonts.h"
+
 #include "Services.h"
 #include "shell/core/Settings.h"
 #include "WindowUtil.h"
@@ -42,12 +44,15 @@ frmInput::frmInput(QWidget *parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmInput"));
     setWindowTitle(tr("Secret Word"));
+    setFont(FriendlyFont());
     Label1 = Named(new QLabel(tr("Type a word for your partner to guess, then click OK."), this),
                    QStringLiteral("Label1"));
     Label1->setWordWrap(true);
+    Label1->setTextFormat(Qt::PlainText);
     ScaleFont(Label1, 1.4);
     txtWord = Named(new WordEdit(this), QStringLiteral("txtWord"));
     ScaleFont(txtWord, 2.0, true);
+    txtWord->setAccessibleName(tr("Secret word"));
     txtWord->setMaxLength(30);
     // A pasted text goes through the same rule as typing.
     connect(txtWord, &QLineEdit::textChanged, this, [this](const QString &text) {

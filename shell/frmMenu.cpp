@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmMenu.h"
 
+#include "Accessibility.h"
 #include "ActivityWindow.h"
 #include "shell/core/DataPath.h"
 #include "Preferences.h"
@@ -36,6 +37,7 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
     : QWidget(parent), m_activities(activities)
 {
     setObjectName(QStringLiteral("frmMenu"));
+    InstallAccessibility();
     setWindowTitle(QStringLiteral("Lumbridle, Version 5.0"));
     setAutoFillBackground(true);
     QPalette background = palette();
@@ -71,6 +73,9 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
     QFont choiceFont(QStringLiteral("Comic Sans MS"));
     choiceFont.setPointSize(15);
     choiceFont.setBold(true);
+    // One sheet for all fifteen buttons: read and applied once, which the menu's first
+    // paint feels.
+    QString buttonStyles;
     auto *grid = new QGridLayout;
     grid->setSpacing(12);
     for (int i = 0; i < ChoiceCount; ++i) {
@@ -78,21 +83,26 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
                                         [i](const ActivityEntry &e) { return e.index == i; });
         auto *button = Named(new QPushButton(this), ArrayName("cmdChoice", i));
         button->setText(entry != m_activities.cend() ? entry->caption : QString());
+        button->setAccessibleName(SpokenCaption(button->text()));
         button->setFont(choiceFont);
         button->setMinimumSize(150, 64);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         button->setEnabled(entry != m_activities.cend() && entry->open);
         if (!button->isEnabled())
             button->setToolTip(tr("This activity is not in this version yet."));
-        StyleBrightButton(button, QColor(ButtonColours[i]), 14);
+        buttonStyles += BrightButtonStyle(u'#' + button->objectName(), QColor(ButtonColours[i]), 14);
         connect(button, &QPushButton::clicked, this, [this, i] { openActivity(i); });
         grid->addWidget(button, i / Columns, i % Columns);
         m_choices.append(button);
     }
 
+    setStyleSheet(buttonStyles);
+
     cmdHelp = Named(new QPushButton(tr("&Help"), this), QStringLiteral("cmdHelp"));
     cmdSound = Named(new QPushButton(this), QStringLiteral("cmdSound"));
     cmdSound->setCheckable(true);
+    // Read as what it is: a switch called Sound, on (checked) while sounds play.
+    cmdSound->setAccessibleName(tr("Sound"));
     cmdExit = Named(new QPushButton(tr("E&xit"), this), QStringLiteral("cmdExit"));
     for (QPushButton *button : {cmdHelp, cmdSound, cmdExit}) {
         ScaleFont(button, 1.3, true);
@@ -100,14 +110,14 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
         button->setMinimumWidth(130);
     }
     connect(cmdHelp, &QPushButton::clicked, this, [this] { ShowHelpContents(this); });
-    connect(cmdSound, &QPushButton::toggled, this, [this](bool muted) {
-        Preferences::get().muted = muted;
-        if (muted)
+    connect(cmdSound, &QPushButton::toggled, this, [this](bool on) {
+        Preferences::get().muted = !on;
+        if (!on)
             StopSound();
         updateSoundButton();
     });
     connect(cmdExit, &QPushButton::clicked, this, &QWidget::close);
-    cmdSound->setChecked(Preferences::get().muted);
+    cmdSound->setChecked(!Preferences::get().muted);
     updateSoundButton();
 
     auto *top = new QHBoxLayout;
@@ -129,7 +139,7 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
 
 void frmMenu::updateSoundButton()
 {
-    cmdSound->setText(cmdSound->isChecked() ? tr("Sound &off") : tr("Sound &on"));
+    cmdSound->setText(cmdSound->isChecked() ? tr("Sound &on") : tr("Sound &off"));
     cmdSound->setToolTip(tr("Turn all sounds on or off, for a quiet classroom."));
 }
 
@@ -176,9 +186,13 @@ void frmMenu::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     // Lettering grows with the window, so the buttons read as well on a large screen.
-    const double scale = qBound(1.0, qMin(width() / 1000.0, height() / 700.0), 2.5);
+    // Never larger than the screen allowed (FitScale) on a small or highly scaled screen.
+    const double fit = FitScale(this);
+    const double scale = qBound(fit, qMin(width() / 1000.0, height() / 700.0), 2.5 * fit);
     for (QPushButton *button : std::as_const(m_choices)) {
         QFont font = button->font();
+        if (qFuzzyCompare(font.pointSizeF(), 15 * scale))
+            continue; // an unchanged font would still re-lay the buttons out
         font.setPointSizeF(15 * scale);
         button->setFont(font);
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmResults.h"
 
+#include "Fonts.h"
+
 #include "shell/core/DataPath.h"
 #include "Services.h"
 #include "widgets/PictureBox.h"
@@ -14,6 +16,7 @@
 frmResults::frmResults(QWidget *parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmResults"));
+    setFont(FriendlyFont());
     setAutoFillBackground(true);
     setStyleSheet(QStringLiteral("frmResults { background: #FFFDE7; }"));
     auto *trophy = Named(new PictureBox(this), QStringLiteral("imgTrophy"));
@@ -23,6 +26,7 @@ frmResults::frmResults(QWidget *parent) : QDialog(parent)
     auto *headings = new QVBoxLayout;
     for (int i = 0; i < 2; ++i) {
         auto *label = Named(new QLabel(this), ArrayName("Label1", i));
+        label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
         ScaleFont(label, i == 0 ? 1.8 : 1.35, true);
         label->setStyleSheet(i == 0 ? QStringLiteral("color: #C62828;")
@@ -57,6 +61,7 @@ void frmResults::setRows(qint16 rows)
 {
     for (int i = int(lblWin.size()); i < rows; ++i) {
         auto *label = Named(new QLabel(this), ArrayName("lblWin", i));
+        label->setTextFormat(Qt::PlainText); // players' names, as typed
         ScaleFont(label, 1.7, true);
         label->setStyleSheet(QStringLiteral("color: #2E7D32;"));
         label->setAlignment(Qt::AlignCenter);

@@ -128,23 +128,28 @@ void frmThief::buildControls()
 {
     lblDescribe = Named(new QLabel(this), QStringLiteral("lblDescribe"));
     lblDescribe->setWordWrap(true);
+    lblDescribe->setTextFormat(Qt::PlainText);
     ScaleFont(lblDescribe, 1.3, true);
     lblDescribe->setStyleSheet(QStringLiteral("color: #1A237E;"));
 
     picCover = Named(new CaseCover(this), QStringLiteral("picCover"));
     SSTab1 = Named(new QTabWidget(this), QStringLiteral("SSTab1"));
+    SSTab1->setAccessibleName(tr("Case papers"));
     SSTab1->setStyleSheet(QStringLiteral("QTabBar::tab { padding: 8px 18px; font-weight: bold; }"
                                          "QTabBar::tab:selected { background: #FFE082; }"));
     txtCase = makeReader(QStringLiteral("txtCase"), 17, this);
     txtClues = makeReader(QStringLiteral("txtClues"), 16, this);
+    txtCase->setAccessibleName(tr("The case"));
+    txtClues->setAccessibleName(tr("Clues"));
     SSTab1->addTab(txtCase, tr("The &Case"));
     SSTab1->addTab(txtClues, tr("C&lues"));
     SSTab1->addTab(buildSuspectsTab(), tr("S&uspects"));
 
     fraHints = makeFrame(tr("Hints"), QStringLiteral("fraHints"), this);
     txtHints = makeReader(QStringLiteral("txtHints"), 15, fraHints);
+    txtHints->setAccessibleName(tr("Hints"));
     txtHints->setPlaceholderText(tr("Press Next Hint to see the first step of the solution."));
-    cmdHint = makeButton(tr("Next &Hint"), QStringLiteral("cmdHint"), "#00838F", fraHints);
+    cmdHint = makeButton(tr("Next Hin&t"), QStringLiteral("cmdHint"), "#00838F", fraHints);
     cmdHintOK = makeButton(tr("Hi&de Hints"), QStringLiteral("cmdHintOK"), "#546E7A", fraHints);
     auto *hintButtons = new QVBoxLayout;
     hintButtons->addWidget(cmdHint);
@@ -156,6 +161,7 @@ void frmThief::buildControls()
 
     fraSolution = makeFrame(tr("Solution"), QStringLiteral("fraSolution"), this);
     txtSolution = makeReader(QStringLiteral("txtSolution"), 15, fraSolution);
+    txtSolution->setAccessibleName(tr("Solution"));
     auto *solutionLayout = new QVBoxLayout(fraSolution);
     solutionLayout->addWidget(txtSolution);
 
@@ -174,13 +180,19 @@ void frmThief::buildControls()
     auto *diffLayout = new QGridLayout(fraDiff);
     for (int i = 0; i < CaseNumber::Levels; ++i) {
         const QString caption = CaseNumber::levelCaption(i + 1);
-        auto *option = Named(new QRadioButton(u'&' + caption, fraDiff), ArrayName("optDiff", i));
+        auto *option = Named(new QRadioButton(levelMnemonic(i + 1), fraDiff),
+                             ArrayName("optDiff", i));
+        option->setAccessibleName(caption);
         option->installEventFilter(this);
         option->setStyleSheet(
             QStringLiteral("QRadioButton { padding: 4px; }"
                            "QRadioButton::indicator { width: 20px; height: 20px; }"));
         setType(option, this, 16);
-        connect(option, &QRadioButton::clicked, this, [this, i] { setLevel(i + 1); });
+        // The state change, not the click: screen readers and switch access toggle it.
+        connect(option, &QRadioButton::toggled, this, [this, i](bool on) {
+            if (on)
+                setLevel(i + 1);
+        });
         diffLayout->addWidget(option, i, 0, 1, 2);
         optDiff.append(option);
     }
@@ -192,8 +204,10 @@ void frmThief::buildControls()
     fraCase = makeFrame(tr("Old Case"), QStringLiteral("fraCase"), this);
     auto *prompt = new QLabel(tr("Type the seven-digit case number:"), fraCase);
     prompt->setWordWrap(true);
+    prompt->setTextFormat(Qt::PlainText);
     setType(prompt, this, 14);
     txtCNum = Named(new QLineEdit(fraCase), QStringLiteral("txtCNum"));
+    txtCNum->setAccessibleName(tr("Case number"));
     setType(txtCNum, this, 20, true);
     txtCNum->setValidator(
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), txtCNum));
@@ -208,11 +222,12 @@ void frmThief::buildControls()
     caseLayout->addWidget(cmdCancelCN, 2, 1);
 
     fraAccuse = makeFrame(tr("Accuse a Suspect"), QStringLiteral("fraAccuse"), this);
-    auto *accuseLayout = new QVBoxLayout(fraAccuse);
+    // Two to a row, so the desk stays short enough for a small or highly scaled screen.
+    auto *accuseLayout = new QGridLayout(fraAccuse);
     for (int i = 0; i < Case::Suspects; ++i) {
         auto *button = makeButton(QString(), ArrayName("cmdSuspect", i), "#EF6C00", fraAccuse);
         connect(button, &QPushButton::clicked, this, [this, i] { cmdSuspect_Click(i); });
-        accuseLayout->addWidget(button);
+        accuseLayout->addWidget(button, i / 2, i % 2, 1, i == Case::Suspects - 1 && i % 2 == 0 ? 2 : 1);
         cmdSuspect.append(button);
     }
 
@@ -226,7 +241,7 @@ void frmThief::buildControls()
     overLayout->addWidget(lblOver);
 
     fraSolve = makeFrame(tr("Stuck?"), QStringLiteral("fraSolve"), this);
-    cmdHints = makeButton(tr("Get a Hin&t"), QStringLiteral("cmdHints"), "#00838F", fraSolve);
+    cmdHints = makeButton(tr("&Get a Hint"), QStringLiteral("cmdHints"), "#00838F", fraSolve);
     cmdSoln = makeButton(tr("&Solution"), QStringLiteral("cmdSoln"), "#455A64", fraSolve);
     auto *solveLayout = new QHBoxLayout(fraSolve);
     solveLayout->addWidget(cmdHints);
@@ -234,6 +249,7 @@ void frmThief::buildControls()
 
     fraPrint = Named(new QWidget(this), QStringLiteral("fraPrint"));
     lblPrintCase = Named(new QLabel(tr("Print:"), fraPrint), QStringLiteral("lblPrintCase"));
+    lblPrintCase->setTextFormat(Qt::PlainText);
     lblPrintCase->setStyleSheet(QStringLiteral("color: #1A237E; font-weight: bold;"));
     cmdPrintCase = makeButton(tr("C&ase"), QStringLiteral("cmdPrintCase"), "#5D4037", fraPrint);
     cmdPrintClues = makeButton(tr("Clu&es"), QStringLiteral("cmdPrintClues"), "#5D4037", fraPrint);
@@ -307,6 +323,7 @@ QWidget *frmThief::buildSuspectsTab()
                                "thief."),
                             page);
     help->setWordWrap(true);
+    help->setTextFormat(Qt::PlainText);
     help->setFont(font());
     help->setStyleSheet(QStringLiteral("color: #455A64;"));
     m_notesLayout->addWidget(help);
@@ -343,8 +360,11 @@ void frmThief::fillSuspectNotes()
         auto *name = Named(new QLabel(m_case->displayList[s], card), ArrayName("lblNoteName", s));
         setType(name, this, 16, true);
         setStrikeOut(name, false);
+        card->setAccessibleName(m_case->displayList[s]);
+        name->setTextFormat(Qt::PlainText);
         auto *crossed =
             Named(new QCheckBox(tr("Not the thief"), card), ArrayName("chkRuledOut", s));
+        crossed->setAccessibleName(tr("%1 is not the thief").arg(m_case->displayList[s]));
         crossed->setStyleSheet(
             QStringLiteral("QCheckBox::indicator { width: 20px; height: 20px; }"));
         setType(crossed, this, 13);
@@ -357,6 +377,8 @@ void frmThief::fillSuspectNotes()
             combo->addItems(choices[k]);
             combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
             combo->setMinimumContentsLength(10);
+            combo->setAccessibleName(
+                tr("%1 of %2").arg(m_case->titles[k], m_case->displayList[s]));
             setType(combo, this, 13);
             grid->addWidget(combo, 1 + k / 3, k % 3);
         }
@@ -422,6 +444,14 @@ void frmThief::setLevel(int newLevel)
 {
     TheSettings().stopThief.level = static_cast<qint16>(newLevel);
     optDiff[newLevel - 1]->setChecked(true);
+}
+
+QString frmThief::levelMnemonic(int level)
+{
+    // Letters that no other control of this window uses while the levels are on show.
+    static const char *const captions[] = {"&Beginner", "&Novice", "Ex&perienced", "Ad&vanced",
+                                           "Expe&rt"};
+    return level >= 1 && level <= CaseNumber::Levels ? tr(captions[level - 1]) : QString();
 }
 
 void frmThief::showStartState()
@@ -640,6 +670,7 @@ void frmThief::cmdSuspect_Click(int index)
         }
     }
     lblOver->setText(text);
+    Announce(lblOver, text);
     fraOver->setTitle(m_case->isThief(name) ? tr("Case Solved!") : tr("Case Closed"));
     fraOver->setStyleSheet(frameStyle(m_case->isThief(name) ? "#E8F5E9" : "#FFEBEE"));
     fraAccuse->hide();

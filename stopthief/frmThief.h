@@ -80,6 +80,8 @@ private:
     void showStartState();
     void setLevel(int level);
     int level() const;
+    // A level's caption with its keyboard letter.
+    static QString levelMnemonic(int level);
     bool confirmLeavingCase(const QString &title, const QString &question);
     void buildCase(const QString &number);
 

@@ -33,9 +33,20 @@ template <std::size_t N> void writeLine(WriteWriter &out, const std::array<qint1
 
 std::optional<Settings> parse(const QByteArray &content, FileError *error)
 {
+    // Only the 18 lines are read: whatever a person or a later version added below them is
+    // not ours to judge, however it is written.
+    QByteArray ours = content;
+    qsizetype end = -1;
+    for (int line = 0; line < LineCount; ++line) {
+        end = ours.indexOf('\n', end + 1);
+        if (end < 0)
+            break;
+    }
+    if (end >= 0)
+        ours.truncate(end + 1);
     WriteReader in(QString::fromLatin1(FileName));
     Settings s;
-    bool ok = in.parse(content) && readLine(in, s.balloon.values) &&
+    bool ok = in.parse(ours) && readLine(in, s.balloon.values) &&
               readLine(in, s.mathTutor.values) && readOne(in, s.spaceRace.players) &&
               in.beginLine(4);
     for (auto &name : s.spaceRace.names)
@@ -60,15 +71,17 @@ std::optional<Settings> parse(const QByteArray &content, FileError *error)
 
 std::optional<Settings> read(const QString &path, FileError *error)
 {
-    WriteReader in(QString::fromLatin1(FileName));
+    // Errors name the full path: a damaged copy in the user's folder must be findable.
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         if (error)
-            *error = FileError{QString::fromLatin1(FileName), 0, 0,
-                               QStringLiteral("the file cannot be opened")};
+            *error = FileError{path, 0, 0, QStringLiteral("the file cannot be opened")};
         return std::nullopt;
     }
-    return parse(file.read(1024 * 1024), error);
+    auto settings = parse(file.read(1024 * 1024), error);
+    if (!settings && error)
+        error->file = path;
+    return settings;
 }
 
 QByteArray format(const Settings &s)

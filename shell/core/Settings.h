@@ -80,10 +80,12 @@ struct Settings {
 };
 
 // Reading and writing the 18 lines of the settings file. Reading is all or nothing: on any
-// failure no value is returned and the error says where the file is damaged.
+// failure no value is returned and the error says where the file is damaged (with the file's
+// full path when it was read from disk). Lines after the 18th are ignored.
 namespace SettingsFile {
 inline constexpr auto FileName = "lumbridle52.ini";
 inline constexpr auto BrokenMessage = "File missing/incomplete - Reinstall program";
+inline constexpr int LineCount = 18;
 
 std::optional<Settings> parse(const QByteArray &content, FileError *error = nullptr);
 std::optional<Settings> read(const QString &path, FileError *error = nullptr);

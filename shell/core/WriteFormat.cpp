@@ -326,13 +326,15 @@ bool SaveFileAtomically(const QString &path, const QByteArray &data, FileError *
     QSaveFile file(path);
     auto failWith = [&](const QString &problem) {
         if (error)
-            *error = FileError{QFileInfo(path).fileName(), 0, 0, problem};
+            *error = FileError{QFileInfo(path).absoluteFilePath(), 0, 0, problem};
         file.cancelWriting();
         return false;
     };
-    if (!file.open(QIODevice::WriteOnly))
+    // Unbuffered, so a full disk fails the write itself: a buffered write fails only inside
+    // commit(), which does not always say so, and the empty file would replace the good one.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return failWith(QStringLiteral("the file cannot be written (%1)").arg(file.errorString()));
-    if (file.write(data) != data.size())
+    if (file.write(data) != data.size() || !file.flush() || file.error() != QFileDevice::NoError)
         return failWith(QStringLiteral("the file cannot be written (%1)").arg(file.errorString()));
     if (!file.commit())
         return failWith(QStringLiteral("the file cannot be saved (%1)").arg(file.errorString()));

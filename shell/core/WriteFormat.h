@@ -81,5 +81,7 @@ private:
     bool m_lineStarted = false;
 };
 
-// Replaces a file in one step, so a crash or a full disk never leaves half a file.
+// The one routine every save goes through (settings, word lists, graph files): replaces a file
+// in one step, so a crash or a full disk never leaves half a file or an empty one. On failure
+// the old file stays as it was and the error names the file's full path.
 bool SaveFileAtomically(const QString &path, const QByteArray &data, FileError *error = nullptr);

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Gauge.h"
 
+#include "shell/Accessibility.h"
+
+#include <QAccessible>
+
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -61,7 +65,10 @@ QColor Gauge::levelColour(int percent)
 
 void Gauge::updateAccessibleText()
 {
+    InstallAccessibility();
     setAccessibleDescription(tr("%1 percent").arg(m_percent));
+    QAccessibleValueChangeEvent changed(this, m_percent);
+    QAccessible::updateAccessibility(&changed);
 }
 
 QSize Gauge::sizeHint() const

@@ -12,12 +12,45 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QPolygonF>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTest>
 
 namespace {
 
 using Record = QStringList;
+
+// What in a record's facts gives its answer away in a "Name the ..." quiz: a name (or capital)
+// whole, any word of four letters or more from it, or a short code (an abbreviation, initials)
+// as a whole word. Names and their words match in any case; codes only as written.
+QStringList giveaways(const Record &record, const QList<int> &facts, const QStringList &names,
+                      const QStringList &codes = {})
+{
+    QStringList found;
+    auto wholeWord = [](const QString &word, Qt::CaseSensitivity cs) {
+        return QRegularExpression(
+            QStringLiteral("(?<![\\w])%1(?![\\w])").arg(QRegularExpression::escape(word)),
+            cs == Qt::CaseInsensitive ? QRegularExpression::CaseInsensitiveOption
+                                      : QRegularExpression::NoPatternOption);
+    };
+    for (int f : facts) {
+        const QString &fact = record[f];
+        for (const QString &name : names) {
+            QStringList words{name};
+            const auto parts = name.split(QRegularExpression(QStringLiteral("[^\\w']+")));
+            for (const QString &part : parts)
+                if (part.size() >= 4)
+                    words.append(part);
+            for (const QString &word : words)
+                if (fact.contains(wholeWord(word, Qt::CaseInsensitive)))
+                    found.append(QStringLiteral("\"%1\" in: %2").arg(word, fact));
+        }
+        for (const QString &code : codes)
+            if (!code.isEmpty() && fact.contains(wholeWord(code, Qt::CaseSensitive)))
+                found.append(QStringLiteral("\"%1\" in: %2").arg(code, fact));
+    }
+    return found;
+}
 
 // Reads a file of records with a fixed number of items each; numbers are kept as written.
 QList<Record> readRecords(const QString &name, int items, QString *problem)
@@ -108,6 +141,8 @@ private slots:
         QCOMPARE(frame.value(QStringLiteral("width")).toInt(), 960);
         for (qsizetype r = 0; r < states.size(); ++r) {
             const Record &s = states[r];
+            const QStringList given = giveaways(s, {10, 11, 12}, {s[1], s[2]}, {s[0]});
+            QVERIFY2(given.isEmpty(), qPrintable(given.join(u'\n')));
             const QString where = QStringLiteral("record %1 (%2)").arg(r + 1).arg(s[1]);
             QVERIFY2(r == 0 || states[r - 1][1] < s[1], qPrintable(where + ": not alphabetical"));
             QVERIFY2(s[0].size() == 2 && s[0] == s[0].toUpper(), qPrintable(where));
@@ -162,6 +197,8 @@ private slots:
             for (int f : {2, 3, 4, 9})
                 QVERIFY2(!c[f].trimmed().isEmpty(), qPrintable(where));
             // The facts are clues for naming the country: they must not name it.
+            const QStringList given = giveaways(c, {2, 3, 4}, {c[0], c[1]});
+            QVERIFY2(given.isEmpty(), qPrintable(given.join(u'\n')));
             for (int f : {2, 3, 4})
                 QVERIFY2(!c[f].contains(c[0], Qt::CaseInsensitive),
                          qPrintable(where + ": a fact names the country"));
@@ -197,6 +234,12 @@ private slots:
             previousStart = start;
             for (int f : {0, 3, 4, 6, 7, 8, 9, 10})
                 QVERIFY2(!p[f].trimmed().isEmpty(), qPrintable(where));
+            QString initials;
+            for (const QString &part : p[1].split(u' ', Qt::SkipEmptyParts))
+                if (part[0].isUpper())
+                    initials += part[0];
+            const QStringList given = giveaways(p, {7, 8, 9, 10}, {p[0], p[1]}, {initials});
+            QVERIFY2(given.isEmpty(), qPrintable(given.join(u'\n')));
             const int picture = n < 24 ? n + 1 : n == 24 ? 23 : n;
             QVERIFY2(exists(QStringLiteral("presi%1.gif").arg(picture, 3, 10, QLatin1Char('0'))),
                      qPrintable(where + ": portrait"));

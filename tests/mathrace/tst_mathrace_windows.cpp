@@ -20,6 +20,9 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+#include <QKeyEvent>
+#include <QLayout>
+#include <QTextDocument>
 
 // The race window and the options window, driven as a pupil would with keys and clicks.
 class tst_mathrace_windows : public QObject {
@@ -36,6 +39,8 @@ private slots:
     void optionsTakeEffectAsMade();
     void optionsBringDamagedValuesIntoRange();
     void gaugeShowsTheLevel();
+    void enterQueuedDuringThePauseIsDropped();
+    void markupInNamesIsShownLiterally();
 };
 
 namespace {
@@ -365,6 +370,7 @@ void tst_mathrace_windows::stopWhileRunningAndExit()
     QVERIFY(win.w->txtAnswer->text().isEmpty());
     QVERIFY(win.w->lblProblem->text().isEmpty());
     QCOMPARE(win.message(), QStringLiteral("\nGame Over\n"));
+    QCOMPARE(win.w->pnlGas->percent(), 0);
     QCOMPARE(closed.count(), 0);
     // A tick already on its way changes nothing.
     const int beeps = env.sound.beeps();
@@ -407,6 +413,15 @@ void tst_mathrace_windows::optionsTakeEffectAsMade()
             !opt->optType[5]->isChecked() || opt->lblMax[0]->text() != QLatin1String("5") ||
             !opt->optClock[3]->isChecked() || opt->hsbMax[0]->minimum() != 1 ||
             opt->hsbMax[0]->maximum() != optMRace::LargestMax)
+            return int(QDialog::Rejected);
+        // A teacher decides the number of players first: it comes first in the tab order,
+        // and the largest number moves by a whole times table at a time.
+        QWidget *first = opt->nextInFocusChain();
+        while (first != opt && !(first->focusPolicy() & Qt::TabFocus))
+            first = first->nextInFocusChain();
+        opt->layout()->activate();
+        if (first != opt->optPlayers[0] || opt->hsbMax[0]->pageStep() != 12 ||
+            opt->findChild<QWidget *>("fraPlayers")->y() >= opt->Frame2[0]->y())
             return int(QDialog::Rejected);
         opt->optPlayers[3]->click();
         opt->optType[7]->click();
@@ -509,6 +524,54 @@ void tst_mathrace_windows::gaugeShowsTheLevel()
     const QColor high = picture.pixelColor(40, 60);
     QVERIFY2(low.red() > 150 && low.blue() < 100, qPrintable(low.name()));
     QVERIFY2(high.lightness() < 80, qPrintable(high.name()));
+}
+
+void tst_mathrace_windows::enterQueuedDuringThePauseIsDropped()
+{
+    TestEnvironment env;
+    Window win;
+    Press(Qt::Key_Return); // New Race
+    Press(Qt::Key_Return); // See Problem
+    Type(QString::number(win.answer()));
+    // A second Enter, pressed while "Good!" is on show, waits in the queue behind the first.
+    QCoreApplication::postEvent(win.w->windowHandle(),
+                                new QKeyEvent(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier));
+    QCoreApplication::postEvent(win.w->windowHandle(),
+                                new QKeyEvent(QEvent::KeyRelease, Qt::Key_Return, Qt::NoModifier));
+    Press(Qt::Key_Return);
+    QTest::qWait(50);
+    QCOMPARE(win.w->race().currentPlayer(), 2);
+    QVERIFY(!win.w->Timer1->isActive()); // the next player's clock waits for them
+    QCOMPARE(win.button("cmdOK")->text(), QStringLiteral("&See Problem"));
+    QVERIFY(win.w->lblProblem->isHidden());
+}
+
+void tst_mathrace_windows::markupInNamesIsShownLiterally()
+{
+    TestEnvironment env;
+    const QStringList names{"<b>Bo</b>", "<img src=/dev/zero>", "<i>x", "&amp;"};
+    TheSettings().mathRace.players = 4;
+    for (int i = 0; i < 4; ++i)
+        TheSettings().mathRace.player[i].name = names[i];
+    QStringList shown;
+    env.dialogs.onRun = [&shown](QDialog &dialog) {
+        for (int i = 0; i < 4; ++i) {
+            auto *label = dialog.findChild<QLabel *>(ArrayName("lblWin", i));
+            if (label->textFormat() == Qt::PlainText)
+                shown.append(label->text());
+        }
+        return int(QDialog::Accepted);
+    };
+    Window win;
+    // The standings are styled, so the names in them must be escaped to read as typed.
+    QTextDocument standings;
+    standings.setHtml(win.w->findChild<QLabel *>("lblNames")->text());
+    for (const QString &name : names)
+        QVERIFY2(standings.toPlainText().contains(name), qPrintable(standings.toPlainText()));
+    ShowResults(QStringLiteral("Math Race Results"), QStringLiteral("The game is over."),
+                QStringLiteral("These player(s) finished the race:"), 4, {1, 1, 1, 1}, names, 4);
+    QCOMPARE(shown, names);
+    TheSettings() = Settings();
 }
 
 QTEST_MAIN(tst_mathrace_windows)

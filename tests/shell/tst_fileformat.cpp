@@ -2,6 +2,10 @@
 #include "shell/core/Settings.h"
 #include "shell/core/WriteFormat.h"
 
+#include <csignal>
+#include <sys/mount.h>
+#include <sys/resource.h>
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -201,9 +205,6 @@ private slots:
         QTest::newRow("extra item") << replaceLine(14, "2,3")
                                     << "line 14, item 2: the line has 2 "
                                        "items instead of 1";
-        QTest::newRow("extra line") << Reference + "7\n"
-                                    << "line 19: the file has more lines than "
-                                       "expected";
         QTest::newRow("text for number")
             << replaceLine(6, "\"two\"") << "line 6, item 1: a whole number was expected";
         QTest::newRow("number for name ok but bad type") << replaceLine(8, "\"P2\",x,5,1")
@@ -228,6 +229,20 @@ private slots:
         QVERIFY(error.message().startsWith(QLatin1String("lumbridle52.ini")));
     }
 
+    void linesAfterTheEighteenthAreIgnored()
+    {
+        for (const QByteArray &tail : {QByteArray("7\n"), QByteArray("\"not closed\n,,x,\n\n"),
+                                       QByteArray("\x00\xff", 2)}) {
+            FileError error;
+            const auto settings = SettingsFile::parse(Reference + tail, &error);
+            QVERIFY2(settings, qPrintable(error.message()));
+            QCOMPARE(*settings, Settings());
+        }
+        // The 18th line itself stays as strict as the rest.
+        QVERIFY(!SettingsFile::parse(replaceLine(18, "0,1") + "\n"));
+        QVERIFY(SettingsFile::parse(Reference.chopped(1)));
+    }
+
     void failedSaveLeavesTheOldFile()
     {
         QTemporaryDir dir;
@@ -244,10 +259,65 @@ private slots:
         FileError error;
         QVERIFY(!SaveFileAtomically(dir.filePath(QStringLiteral("blocked")), "x", &error));
         QVERIFY(error.isSet());
-        QVERIFY(error.message().startsWith(QLatin1String("blocked: the file cannot be")));
+        QVERIFY(error.message().startsWith(QDir(dir.path()).absoluteFilePath("blocked") +
+                                           QLatin1String(": the file cannot be")));
         QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{"lumbridle52.ini"});
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), Reference);
+    }
+
+    // A disk that fills while saving: the write must fail, the old file must stay whole and
+    // no temporary file may be left. Both ways of running out of room are tried.
+    void fullDiskKeepsTheOldFile_data()
+    {
+        QTest::addColumn<bool>("smallFileSystem");
+        QTest::newRow("small file system") << true;
+        QTest::newRow("file size limit") << false;
+    }
+    void fullDiskKeepsTheOldFile()
+    {
+        QFETCH(bool, smallFileSystem);
+        QTemporaryDir dir;
+        const QString folder = dir.filePath(QStringLiteral("disk"));
+        QVERIFY(QDir().mkpath(folder));
+        if (smallFileSystem &&
+            ::mount("tmpfs", folder.toLocal8Bit().constData(), "tmpfs", 0, "size=64k") != 0)
+            QSKIP("mounting a small file system needs the right to mount");
+        const QString path = folder + QStringLiteral("/lumbridle52.ini");
+        QVERIFY(SettingsFile::write(path, Settings()));
+
+        Settings changed;
+        changed.mathRace.player[0].name = QString(3000, u'x'); // more than the room left
+        rlimit oldLimit{};
+        ::getrlimit(RLIMIT_FSIZE, &oldLimit);
+        const auto oldSignal = std::signal(SIGXFSZ, SIG_IGN);
+        if (smallFileSystem) {
+            QFile filler(folder + QStringLiteral("/filler"));
+            QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+            const QByteArray block(512, 'f');
+            while (filler.write(block) == block.size()) {
+            }
+        } else {
+            rlimit small = oldLimit;
+            small.rlim_cur = 1024;
+            ::setrlimit(RLIMIT_FSIZE, &small);
+        }
+        FileError error;
+        const bool saved = SettingsFile::write(path, changed, &error);
+        ::setrlimit(RLIMIT_FSIZE, &oldLimit);
+        std::signal(SIGXFSZ, oldSignal);
+
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray kept = file.readAll();
+        file.close();
+        const QStringList left = QDir(folder).entryList(QDir::Files);
+        if (smallFileSystem)
+            ::umount(folder.toLocal8Bit().constData());
+        QVERIFY(!saved);
+        QVERIFY(error.message().contains(QLatin1String("cannot be written")));
+        QCOMPARE(kept, Reference);
+        QCOMPARE(left.filter(QStringLiteral("lumbridle52")), QStringList{"lumbridle52.ini"});
     }
 };
 

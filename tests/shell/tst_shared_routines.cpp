@@ -3,8 +3,10 @@
 #include "shell/core/Shuffle.h"
 #include "shell/core/SoundCode.h"
 #include "shell/core/TextWrap.h"
+#include "shell/core/WaveFile.h"
 
 #include <algorithm>
+#include <QtEndian>
 #include <QTest>
 
 class SharedRoutinesTest : public QObject {
@@ -53,6 +55,56 @@ private slots:
         QCOMPARE(seen.size(), 6);
         for (int count : std::as_const(seen))
             QVERIFY2(count > 9400 && count < 10600, qPrintable(QString::number(count)));
+    }
+
+    void shuffleReportsACountThatWouldOverflow()
+    {
+        Generator random(5);
+        QList<qint16> order(32768, qint16(-1));
+        QVERIFY(!Shuffle(32767, order, random)); // its counter would pass 32767
+        QVERIFY(std::all_of(order.cbegin(), order.cend(), [](qint16 v) { return v == -1; }));
+        QList<qint16> shortList(5, qint16(-1));
+        QVERIFY(!Shuffle(5, shortList, random));
+        QCOMPARE(shortList, QList<qint16>(5, qint16(-1)));
+
+        QVERIFY(Shuffle(32766, order, random));
+        QList<qint16> sorted = order.mid(1, 32766);
+        std::sort(sorted.begin(), sorted.end());
+        QCOMPARE(sorted.first(), qint16(1));
+        QCOMPARE(sorted.last(), qint16(32766));
+        QVERIFY(std::adjacent_find(sorted.cbegin(), sorted.cend()) == sorted.cend());
+        QCOMPARE(order[32767], qint16(-1));
+    }
+
+    // A wave file's header decides how long a sound played to its end holds the program.
+    void waveLengthTrustsOnlyAWholeHonestHeader_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<double>("seconds");
+        // 8 kHz, mono, 8 bits: 8000 bytes a second.
+        QTest::newRow("one second") << wave(8000, 1, 8, 8000, 8000) << 1.0;
+        QTest::newRow("16-bit stereo, half a second") << wave(22050, 2, 16, 44100, 44100) << 0.5;
+        QTest::newRow("byte rate of 1") << wave(8000, 1, 8, 8000, 8000, 1) << 0.0;
+        QTest::newRow("byte rate that disagrees") << wave(8000, 1, 8, 8000, 8000, 4000) << 0.0;
+        QTest::newRow("data longer than the file") << wave(8000, 1, 8, 800000, 4000) << 0.5;
+        QTest::newRow("longer than any sound of ours") << wave(8000, 1, 8, 800000, 800000)
+                                                       << 10.0;
+        QByteArray cut = wave(8000, 1, 8, 8000, 0);
+        QTest::newRow("format chunk four bytes short") << cut.left(12 + 8 + 12) << 0.0;
+        QByteArray tiny = wave(8000, 1, 8, 8000, 10);
+        tiny.replace(16, 4, QByteArray("\x0c\0\0\0", 4)); // a 12-byte format chunk
+        QTest::newRow("format chunk too small") << tiny << 0.0;
+        QByteArray noFormat = wave(8000, 1, 8, 8000, 8000);
+        noFormat.replace(12, 4, "junk");
+        QTest::newRow("data before any format") << noFormat << 0.0;
+        QTest::newRow("not a wave") << QByteArray("RIFF\0\0\0\0AVI LIST") << 0.0;
+        QTest::newRow("empty") << QByteArray() << 0.0;
+    }
+    void waveLengthTrustsOnlyAWholeHonestHeader()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(double, seconds);
+        QCOMPARE(WaveFile::seconds(file.left(4096), file.size()), seconds);
     }
 
     void generatorIsReproducibleAndInRange()
@@ -139,6 +191,29 @@ private slots:
     }
 
 private:
+    static QByteArray wave(quint32 rate, quint16 channels, quint16 bits, quint32 dataSize,
+                           int dataHeld, quint32 byteRate = 0)
+    {
+        const quint16 block = quint16(channels * bits / 8);
+        QByteArray out("RIFF\0\0\0\0WAVEfmt ", 16);
+        auto put = [&out](auto value) {
+            char bytes[sizeof value];
+            qToLittleEndian(value, bytes);
+            out.append(bytes, sizeof value);
+        };
+        put(quint32(16));
+        put(quint16(1));
+        put(channels);
+        put(rate);
+        put(byteRate ? byteRate : rate * block);
+        put(block);
+        put(bits);
+        out.append("data");
+        put(dataSize);
+        out.append(QByteArray(dataHeld, '\x80'));
+        return out;
+    }
+
     // Counts draws, so a test can prove that nothing was drawn.
     class ScriptedCounter final : public RandomSource {
     public:

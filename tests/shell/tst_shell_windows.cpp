@@ -8,6 +8,7 @@
 #include "shell/Preferences.h"
 #include "shell/RealServices.h"
 #include "shell/core/Settings.h"
+#include "shell/WindowUtil.h"
 #include "support/TestDoubles.h"
 
 #include <QElapsedTimer>
@@ -172,9 +173,17 @@ private slots:
         QCOMPARE(env.help.topics, QStringList{"contents"});
         auto *sound = menu.findChild<QPushButton *>(QStringLiteral("cmdSound"));
         QVERIFY(!Preferences::get().muted);
+        // A switch called Sound, checked while sounds play.
+        QCOMPARE(sound->accessibleName(), QStringLiteral("Sound"));
+        QVERIFY(sound->isChecked());
         QTest::mouseClick(sound, Qt::LeftButton);
         QVERIFY(Preferences::get().muted);
+        QVERIFY(!sound->isChecked());
         QCOMPARE(sound->text(), QStringLiteral("Sound &off"));
+        // The menu's buttons are read without the tab some captions begin with.
+        frmMenu real(Activities());
+        QCOMPARE(real.cmdChoice(4)->accessibleName(), QStringLiteral("Math Race"));
+        QCOMPARE(real.cmdChoice(8)->accessibleName(), QStringLiteral("Graphs & Charts"));
         QTest::mouseClick(sound, Qt::LeftButton);
         QVERIFY(!Preferences::get().muted);
     }
@@ -303,6 +312,55 @@ private slots:
         QVERIFY(QFileInfo::exists(QtSound::modulePath()));
         sound.play(DataFile(QStringLiteral("ding.wav")), false);
         sound.stop();
+    }
+
+    // The menu and every activity of the table fit the free area of common screens at 100,
+    // 150 and 200 % scaling (a 48-pixel task bar at the bottom), title bar included.
+    void everyWindowFitsTheScreen_data()
+    {
+        QTest::addColumn<int>("activity");
+        QTest::addColumn<QRect>("area");
+        QList<int> windows{-1};
+        for (const ActivityEntry &entry : Activities())
+            if (entry.open)
+                windows.append(entry.index);
+        for (const QSize screen : {QSize(1366, 768), QSize(1920, 1080)})
+            for (const double scale : {1.0, 1.5, 2.0})
+                for (int window : windows)
+                    QTest::addRow("%s %dx%d at %d%%",
+                                  window < 0 ? "menu" : qPrintable(QString::number(window)),
+                                  screen.width(), screen.height(), int(scale * 100))
+                        << window
+                        << QRect(0, 0, int(screen.width() / scale),
+                                 int((screen.height() - 48) / scale));
+    }
+    void everyWindowFitsTheScreen()
+    {
+        QFETCH(int, activity);
+        QFETCH(QRect, area);
+        TestEnvironment env;
+        std::unique_ptr<QWidget> window;
+        if (activity < 0)
+            window = std::make_unique<frmMenu>(Activities());
+        for (const ActivityEntry &entry : Activities())
+            if (entry.index == activity)
+                window.reset(entry.open());
+        window->setAttribute(Qt::WA_DeleteOnClose, false);
+        const QMargins frame(4, 34, 4, 4);
+        FitInto(window.get(), area, frame);
+        const QRect outer = window->geometry().marginsAdded(frame);
+        QVERIFY2(area.contains(outer), qPrintable(QStringLiteral("%1,%2 %3x%4")
+                                                      .arg(outer.x())
+                                                      .arg(outer.y())
+                                                      .arg(outer.width())
+                                                      .arg(outer.height())));
+        const QSize need = window->minimumSizeHint();
+        QVERIFY2(need.width() <= window->width() && need.height() <= window->height(),
+                 qPrintable(QStringLiteral("needs %1x%2").arg(need.width()).arg(need.height())));
+        // Centred: the room left is shared on both sides.
+        QVERIFY(qAbs((outer.left() - area.left()) - (area.right() - outer.right())) <= 1);
+        QVERIFY(qAbs((outer.top() - area.top()) - (area.bottom() - outer.bottom())) <= 1);
+        QVERIFY(FitScale(window.get()) >= 0.5);
     }
 
     void activityExitCaption()

@@ -135,7 +135,29 @@ private slots:
         QCOMPARE(env.dialogs.messages[0].text,
                  QStringLiteral("File missing/incomplete - Reinstall program"));
         QCOMPARE(env.dialogs.messages[0].icon, QMessageBox::Critical);
+        QVERIFY(env.dialogs.messages[0].details.startsWith(dir.path()));
         QCOMPARE(TheSettings().graphs.value, qint16(77));
+    }
+
+    // With no screen (offscreen here) the program must not wait on a box nobody can close:
+    // it says what is wrong, with the file's full path, and ends with an error status.
+    void damagedSettingsEndTheProgramWithoutAScreen()
+    {
+        QTemporaryDir dir;
+        QFile file(dir.filePath(QStringLiteral("lumbridle52.ini")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("1,6\n");
+        file.close();
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        program.setProcessEnvironment(environment);
+        program.start(QStringLiteral(LUMBRIDLE_PROGRAM), {QStringLiteral("--data-dir"), dir.path()});
+        QVERIFY(program.waitForFinished(20000));
+        QVERIFY(program.exitCode() != 0);
+        const QByteArray said = program.readAllStandardError();
+        QVERIFY2(said.contains("File missing/incomplete - Reinstall program"), said.constData());
+        QVERIFY2(said.contains(QFile::encodeName(file.fileName()) + ", line 2"), said.constData());
     }
 
     void deliveredSettingsFileHoldsTheReferenceValues()

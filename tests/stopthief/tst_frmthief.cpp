@@ -7,6 +7,7 @@
 #include "shell/core/DataPath.h"
 #include "shell/core/Settings.h"
 
+#include <QAccessible>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -87,7 +88,7 @@ void tst_frmthief::startsWithOnlyTheDesk()
     QCOMPARE(window.cmdExit->text(), QStringLiteral("E&xit"));
     QCOMPARE(window.SSTab1->count(), 3);
     QCOMPARE(window.findChild<QRadioButton *>(QStringLiteral("optDiff_4"))->text(),
-             QStringLiteral("&Expert"));
+             QStringLiteral("Expe&rt"));
     QVERIFY(window.findChild<QPushButton *>(QStringLiteral("cmdSuspect_4")));
 }
 
@@ -103,6 +104,11 @@ void tst_frmthief::newCaseAtTheChosenLevel()
     QVERIFY(window.fraDiff->isVisible());
     QVERIFY(!window.fraChoice->isVisible());
     QVERIFY(window.optDiff[1]->isChecked()); // the reference level, Novice
+    // A screen reader or switch toggles the option without a click; the level follows.
+    QAccessibleInterface *expert = QAccessible::queryAccessibleInterface(window.optDiff[4]);
+    expert->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    QCOMPARE(TheSettings().stopThief.level, qint16(5));
+    QCOMPARE(expert->text(QAccessible::Name), QStringLiteral("Expert"));
     QTest::mouseClick(window.optDiff[3], Qt::LeftButton, {}, QPoint(10, 10));
     QCOMPARE(TheSettings().stopThief.level, qint16(4));
 
@@ -123,6 +129,12 @@ void tst_frmthief::newCaseAtTheChosenLevel()
     QCOMPARE(window.txtClues->toPlainText(), c->clueList);
     for (int i = 0; i < Case::Suspects; ++i)
         QCOMPARE(window.cmdSuspect[i]->text(), c->displayList[i]);
+    // Each note card and its controls say whose they are.
+    const QString first = c->displayList[0];
+    QCOMPARE(window.findChild<QWidget *>("fraSuspectCard_0")->accessibleName(), first);
+    QCOMPARE(window.findChild<QWidget *>("chkRuledOut_0")->accessibleName(),
+             first + QStringLiteral(" is not the thief"));
+    QVERIFY(window.findChild<QWidget *>("cboNote_0_1")->accessibleName().endsWith(first));
     // The notes on the suspects tab follow the shuffled list too.
     QCOMPARE(window.findChild<QLabel *>(QStringLiteral("lblNoteName_2"))->text(),
              c->displayList[2]);
