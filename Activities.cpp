@@ -6,6 +6,7 @@
 #include "mathrace/frmMRace.h"
 #include "pizza/frmPizza.h"
 #include "stopthief/frmThief.h"
+#include "typing/frmType.h"
 
 namespace {
 template <typename Window> std::function<ActivityWindow *()> opens()
@@ -29,7 +30,7 @@ QList<ActivityEntry> Activities()
         {9, QStringLiteral("Calendar"), {}, QStringLiteral("calendar")},
         {10, QStringLiteral("US Geography"), {}, QStringLiteral("usgeography")},
         {11, QStringLiteral("US Presidents"), {}, QStringLiteral("presidents")},
-        {12, QStringLiteral("Keyboarding"), {}, QStringLiteral("typing")},
+        {12, QStringLiteral("Keyboarding"), opens<frmType>(), QStringLiteral("typing")},
         // The card games open the one last played: 1 War, 2 Concentration, 3 Blackjack.
         {13, QStringLiteral("\tDeckhand"), {}, QStringLiteral("cards")},
         {14, QStringLiteral("Pizza Place"), opens<frmPizza>(), QStringLiteral("pizza")},

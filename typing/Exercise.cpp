@@ -34,7 +34,9 @@ QChar Exercise::expected() const
 
 Exercise::Outcome Exercise::type(QChar c, qint64 now)
 {
-    if (!isRunning() || c.isNull() || c.category() == QChar::Other_Control)
+    // Tab and Enter are keys a pupil may hit by mistake; other control codes are not typing.
+    const bool control = c.category() == QChar::Other_Control && c != u'\t' && c != u'\n';
+    if (!isRunning() || c.isNull() || control)
         return Outcome::Ignored;
     if (!m_started) {
         m_started = true;

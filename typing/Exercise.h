@@ -14,8 +14,8 @@ public:
     enum class Outcome { Ignored, Right, Wrong, LineDone, Finished };
 
     void start(const QStringList &lines);
-    // A character typed at a moment. Control characters and keys typed once the exercise is
-    // finished are ignored.
+    // A character typed at a moment. Control characters other than Tab and Enter ("\n"), and
+    // keys typed once the exercise is finished, are ignored.
     Outcome type(QChar c, qint64 now);
     // Ends the exercise early (the time of a speed test ran out) at the given moment.
     void finish(qint64 now);
