@@ -113,7 +113,7 @@ void KeyboardView::paintEvent(QPaintEvent *)
     // Hands under the keyboard; the fingers that type the next key (and Shift) are lit.
     Finger lit = next ? next->finger : Finger::Thumbs;
     Finger litShift = shift ? shift->finger : Finger::Thumbs;
-    const double handTop = top + boardHeight + unit * 0.2;
+    const double handTop = top + boardHeight + unit * 0.15;
     const double handHeight = height() - handTop - 2;
     if (handHeight < unit)
         return;
@@ -138,7 +138,7 @@ void KeyboardView::drawHand(QPainter &painter, const QRectF &area, bool left,
                             std::optional<Finger> lit)
 {
     // Fingers from the little finger inwards, with their heights as a share of the hand.
-    static const double lengths[] = {0.55, 0.72, 0.8, 0.7};
+    static const double lengths[] = {0.33, 0.43, 0.48, 0.42};
     static const Finger leftFingers[] = {Finger::LeftPinky, Finger::LeftRing, Finger::LeftMiddle,
                                          Finger::LeftIndex};
     static const Finger rightFingers[] = {Finger::RightPinky, Finger::RightRing,

@@ -5,6 +5,8 @@
 #include "shell/core/WriteFormat.h"
 #include "balloon/BalloonWords.h"
 #include "stopthief/ThiefData.h"
+#include "typing/Keyboard.h"
+#include "typing/TypingTexts.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -108,6 +110,26 @@ void balloonWords(const QByteArray &input)
             if (!BalloonWords::isPlayable(word.word))
                 FuzzFail("an unplayable balloon word was read", input);
 }
+// Texts that read can all be typed on the keyboard map, and words are small letters only.
+void typingTexts(const QByteArray &input)
+{
+    TypingTexts texts;
+    const bool ok = texts.parse(input);
+    expectHonestError(ok, texts.error(), input);
+    if (!ok)
+        return;
+    if (texts.words().isEmpty() || texts.passages().isEmpty())
+        FuzzFail("typing texts without words or passages were read", input);
+    for (const QString &word : texts.words())
+        if (word.isEmpty() || word != word.toLower() || !TypingTexts::isTypeable(word))
+            FuzzFail("a typing word that is not small letters was read", input);
+    for (const QString &sentence : texts.sentences())
+        if (!TypingTexts::isTypeable(sentence))
+            FuzzFail("an untypeable sentence was read", input);
+    for (const Passage &passage : texts.passages())
+        if (passage.text.isEmpty() || !TypingTexts::isTypeable(passage.text))
+            FuzzFail("an untypeable passage was read", input);
+}
 } // namespace
 
 const QList<FuzzTarget> &FuzzTargets()
@@ -117,6 +139,7 @@ const QList<FuzzTarget> &FuzzTargets()
         {"settings", {"lumbridle52.ini"}, settingsFile},
         {"thief", {"thief.dat"}, thiefData},
         {"balloon", {"balloon.dat"}, balloonWords},
+        {"typing", {"typing.dat"}, typingTexts},
     };
     return targets;
 }
