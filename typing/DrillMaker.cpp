@@ -60,7 +60,8 @@ QString DrillMaker::newKeyLine(const QString &keys, const QString &known)
         QString next;
         const int length = 3 + draw(2);
         for (int i = 0; i < length; ++i)
-            next += (i % 2 == 0) ? keys.at(draw(int(keys.size()))) : pool.at(draw(int(pool.size())));
+            next +=
+                (i % 2 == 0) ? keys.at(draw(int(keys.size()))) : pool.at(draw(int(pool.size())));
         if (appendWord(line, next).size() > LineLength)
             return line;
         line = appendWord(line, next);
@@ -133,8 +134,8 @@ QStringList DrillMaker::make(int lesson, const TypingSettings &settings)
     }
 
     QStringList lines;
-    const bool capitalsLesson = std::all_of(newKeys.begin(), newKeys.end(),
-                                            [](QChar c) { return c.isUpper(); });
+    const bool capitalsLesson =
+        std::all_of(newKeys.begin(), newKeys.end(), [](QChar c) { return c.isUpper(); });
     if (capitalsLesson && !words.isEmpty()) {
         // Shift is practised on words that start with a capital.
         for (int l = 0; l < 2; ++l) {

@@ -9,8 +9,17 @@ Q_DECLARE_LOGGING_CATEGORY(lcTyping)
 
 // The ten fingers that type, from the left little finger to the right one; both thumbs share
 // the space bar.
-enum class Finger { LeftPinky, LeftRing, LeftMiddle, LeftIndex, Thumbs, RightIndex, RightMiddle,
-                    RightRing, RightPinky };
+enum class Finger {
+    LeftPinky,
+    LeftRing,
+    LeftMiddle,
+    LeftIndex,
+    Thumbs,
+    RightIndex,
+    RightMiddle,
+    RightRing,
+    RightPinky
+};
 
 // The rows of the keyboard from the top: numbers, the top letter row, the home row, the bottom
 // row and the space bar.

@@ -54,8 +54,8 @@ TypingSettings TypingSettings::fromValues(const std::array<qint16, 6> &values)
 
 std::array<qint16, 6> TypingSettings::values() const
 {
-    return {qint16(topRow), qint16(homeRow), qint16(bottomRow), qint16(numberRow), qint16(guide),
-            qint16(shift)};
+    return {qint16(topRow),    qint16(homeRow), qint16(bottomRow),
+            qint16(numberRow), qint16(guide),   qint16(shift)};
 }
 
 bool TypingSettings::rowOn(KeyRow row) const

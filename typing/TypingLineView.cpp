@@ -71,16 +71,16 @@ void TypingLineView::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF area = QRectF(rect()).adjusted(2, 2, -2, -2);
-    painter.setPen(QPen(hasFocus() && m_capturing ? QColor(0xFF, 0xD6, 0x00)
-                                                  : QColor(0x90, 0xA4, 0xAE),
-                        hasFocus() && m_capturing ? 4 : 2));
+    painter.setPen(
+        QPen(hasFocus() && m_capturing ? QColor(0xFF, 0xD6, 0x00) : QColor(0x90, 0xA4, 0xAE),
+             hasFocus() && m_capturing ? 4 : 2));
     painter.setBrush(Qt::white);
     painter.drawRoundedRect(area, 12, 12);
     if (!m_exercise || m_exercise->lines().isEmpty())
         return;
 
-    const QString line = m_exercise->isFinished() ? m_exercise->lines().last()
-                                                  : m_exercise->currentLine();
+    const QString line =
+        m_exercise->isFinished() ? m_exercise->lines().last() : m_exercise->currentLine();
     const int position = m_exercise->isFinished() ? int(line.size()) : m_exercise->position();
     // One fixed-width cell per character, as large as the width and the two rows allow.
     const int columns = std::max<int>(int(line.size()), 20) + 2;
@@ -125,11 +125,11 @@ void TypingLineView::paintEvent(QPaintEvent *)
         painter.setBrush(QColor(0xFF, 0xCD, 0xD2));
         painter.drawRoundedRect(box, 4, 4);
         painter.setPen(QColor(0xD5, 0x00, 0x00));
-        const QString shown = wrong.isPrint() && wrong != u' ' ? QString(wrong)
-                                                               : QStringLiteral("\u00D7");
+        const QString shown =
+            wrong.isPrint() && wrong != u' ' ? QString(wrong) : QStringLiteral("\u00D7");
         painter.drawText(box, Qt::AlignCenter, shown);
     }
     painter.setPen(QPen(QColor(0xB0, 0xBE, 0xC5), 1, Qt::DashLine));
-    painter.drawLine(QPointF(x0, typedY + rowHeight), QPointF(x0 + charWidth * line.size(),
-                                                              typedY + rowHeight));
+    painter.drawLine(QPointF(x0, typedY + rowHeight),
+                     QPointF(x0 + charWidth * line.size(), typedY + rowHeight));
 }

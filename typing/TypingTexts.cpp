@@ -72,8 +72,9 @@ bool TypingTexts::read(const WriteReader &reader)
             const QString &text = items[1].text;
             if (text.trimmed().isEmpty() || text.size() > LongestSentence || !isTypeable(text) ||
                 text != text.simplified())
-                return fail(line, 2, QStringLiteral("the sentence is empty, too long or holds "
-                                                    "a character no key types"));
+                return fail(line, 2,
+                            QStringLiteral("the sentence is empty, too long or holds "
+                                           "a character no key types"));
             m_sentences.append(text);
         } else if (kind == u"passage") {
             if (items.size() != 3)
@@ -83,8 +84,9 @@ bool TypingTexts::read(const WriteReader &reader)
                 return fail(line, 2, QStringLiteral("the title is empty or too long"));
             if (text.trimmed().isEmpty() || text.size() > LongestPassage || !isTypeable(text) ||
                 text != text.simplified())
-                return fail(line, 3, QStringLiteral("the passage is empty, too long or holds "
-                                                    "a character no key types"));
+                return fail(line, 3,
+                            QStringLiteral("the passage is empty, too long or holds "
+                                           "a character no key types"));
             m_passages.append({items[1].text, text});
         } else {
             return fail(line, 1, QStringLiteral("unknown kind of line"));

@@ -4,12 +4,12 @@
 #include "Certificate.h"
 #include "DrillMaker.h"
 #include "KeyboardView.h"
-#include "SpeedChart.h"
-#include "TypingLineView.h"
 #include "shell/core/DataPath.h"
 #include "shell/core/Settings.h"
 #include "shell/Services.h"
 #include "shell/WindowUtil.h"
+#include "SpeedChart.h"
+#include "TypingLineView.h"
 
 #include <QCheckBox>
 #include <QDate>
@@ -93,7 +93,7 @@ frmType::frmType(QWidget *parent) : ActivityWindow(QStringLiteral("typing"), par
 
     lstLessons = Named(new QListWidget(this), QStringLiteral("lstLessons"));
     lstLessons->setAccessibleName(tr("Lessons"));
-    lstLessons->setMinimumWidth(200);
+    lstLessons->setMinimumSize(200, 48);
     for (int i = 0; i < Lessons::all().size(); ++i)
         lstLessons->addItem(tr("%1. %2").arg(i + 1).arg(Lessons::all()[i].title));
     cmdStart = MakeButton(tr("Start &Lesson"), QStringLiteral("cmdStart"), "#2E7D32", this);
@@ -118,21 +118,21 @@ frmType::frmType(QWidget *parent) : ActivityWindow(QStringLiteral("typing"), par
 
     fraRows = Named(new QGroupBox(tr("Practise these rows"), this), QStringLiteral("fraRows"));
     fraRows->setAccessibleName(tr("Rows the drills use"));
-    auto *rowBox = new QVBoxLayout(fraRows);
+    // Two by two, so the side column stays short enough for a small screen at 200 %.
+    auto *rowBox = new QGridLayout(fraRows);
     rowBox->setContentsMargins(8, 2, 8, 4);
     rowBox->setSpacing(1);
-    const QString rows[] = {tr("To&p letter row"), tr("H&ome row"), tr("&Bottom row"),
-                            tr("&Number row")};
+    const QString rows[] = {tr("To&p row"), tr("H&ome row"), tr("&Bottom row"), tr("&Number row")};
     for (int i = 0; i < 4; ++i) {
         auto *check = Named(new QCheckBox(rows[i], fraRows), ArrayName("chkRow", i));
         check->setAccessibleName(QString(rows[i]).remove(u'&'));
-        rowBox->addWidget(check);
+        rowBox->addWidget(check, i / 2, i % 2);
         chkRow.append(check);
     }
     chkGuide = Named(new QCheckBox(tr("Finger &guide"), this), QStringLiteral("chkGuide"));
     chkGuide->setAccessibleName(tr("Show the keyboard and hands"));
-    chkShift = Named(new QCheckBox(tr("Capitals and marks (Shi&ft)"), this),
-                     QStringLiteral("chkShift"));
+    chkShift =
+        Named(new QCheckBox(tr("Capitals and marks (Shi&ft)"), this), QStringLiteral("chkShift"));
     chkShift->setAccessibleName(tr("Capitals and marks with Shift"));
 
     pnlPages = Named(new QStackedWidget(this), QStringLiteral("pnlPages"));
@@ -143,7 +143,6 @@ frmType::frmType(QWidget *parent) : ActivityWindow(QStringLiteral("typing"), par
     lblMessage = MakeLabel(QStringLiteral("lblMessage"), typingPage);
     lblMessage->setAccessibleName(tr("Message"));
     lblMessage->setStyleSheet(QStringLiteral("color: #1A237E;"));
-    lblMessage->setMinimumHeight(40);
     txtType = Named(new TypingLineView(typingPage), QStringLiteral("txtType"));
     txtType->setAccessibleName(tr("Typing line"));
     lblStats = MakeLabel(QStringLiteral("lblStats"), typingPage);
@@ -524,8 +523,9 @@ void frmType::finishLesson()
             text += u' ' + tr("Good! That was the last lesson. Try a speed test!");
         }
     } else {
-        text += u' ' + tr("Try it again to reach %1% accuracy. Slow and steady!")
-                           .arg(qRound(PassAccuracy));
+        text +=
+            u' ' +
+            tr("Try it again to reach %1% accuracy. Slow and steady!").arg(qRound(PassAccuracy));
     }
     say(text);
     cmdStart->setFocus();
@@ -589,8 +589,7 @@ void frmType::onResults()
     cmdResults->setText(toResults ? tr("&Back to Typing") : tr("&Results"));
     if (toResults) {
         refreshResults();
-        (m_results.isEmpty() ? static_cast<QWidget *>(grdResults)
-                             : static_cast<QWidget *>(txtName))
+        (m_results.isEmpty() ? static_cast<QWidget *>(grdResults) : static_cast<QWidget *>(txtName))
             ->setFocus();
     }
 }
@@ -656,9 +655,8 @@ void frmType::keyPressEvent(QKeyEvent *event)
         txtType->setFocus();
         const QString text = event->text();
         if (text.size() == 1 && event->key() != Qt::Key_Backspace)
-            typeChar(event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter
-                         ? QChar(u'\n')
-                         : text.at(0));
+            typeChar(event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ? QChar(u'\n')
+                                                                                     : text.at(0));
         return;
     }
     ActivityWindow::keyPressEvent(event);
@@ -685,11 +683,10 @@ void frmType::fitFonts()
         widget->setFont(plain);
     QFont bold = plain;
     bold.setBold(true);
-    for (QWidget *widget :
-         {static_cast<QWidget *>(cmdStart), static_cast<QWidget *>(cmdTest),
-          static_cast<QWidget *>(cmdResults), static_cast<QWidget *>(cmdHelp),
-          static_cast<QWidget *>(cmdExit), static_cast<QWidget *>(cmdPrint),
-          static_cast<QWidget *>(lblStats)})
+    for (QWidget *widget : {static_cast<QWidget *>(cmdStart), static_cast<QWidget *>(cmdTest),
+                            static_cast<QWidget *>(cmdResults), static_cast<QWidget *>(cmdHelp),
+                            static_cast<QWidget *>(cmdExit), static_cast<QWidget *>(cmdPrint),
+                            static_cast<QWidget *>(lblStats)})
         widget->setFont(bold);
     QFont big = bold;
     big.setPixelSize(qRound(base * 1.3));

@@ -3,9 +3,9 @@
 
 #include "Exercise.h"
 #include "Lessons.h"
+#include "shell/ActivityWindow.h"
 #include "SpeedTest.h"
 #include "TypingTexts.h"
-#include "shell/ActivityWindow.h"
 
 #include <QList>
 

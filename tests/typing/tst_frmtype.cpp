@@ -3,9 +3,9 @@
 #include "shell/core/Settings.h"
 #include "support/TestDoubles.h"
 #include "typing/Certificate.h"
+#include "typing/frmType.h"
 #include "typing/KeyboardView.h"
 #include "typing/TypingLineView.h"
-#include "typing/frmType.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -67,8 +67,8 @@ struct Window {
     // Types the rest of the exercise, right key after right key, the clock moving `gap` ms each.
     void typeAll(VirtualClock &clock, int gap) const
     {
-        for (int guard = 0; guard < 5000 && !w->exercise().isFinished() &&
-                            w->mode() != frmType::Mode::Idle;
+        for (int guard = 0;
+             guard < 5000 && !w->exercise().isFinished() && w->mode() != frmType::Mode::Idle;
              ++guard) {
             key(w->exercise().expected());
             clock.now += gap;

@@ -63,20 +63,34 @@ void tst_typing_rules::everyKeyHasAFingerAndARow_data()
     QTest::addColumn<bool>("shift");
     QTest::addColumn<int>("shiftFinger");
     const int none = -1;
-    QTest::newRow("a") << QChar(u'a') << int(KeyRow::Home) << int(Finger::LeftPinky) << false << none;
-    QTest::newRow("f") << QChar(u'f') << int(KeyRow::Home) << int(Finger::LeftIndex) << false << none;
-    QTest::newRow("g") << QChar(u'g') << int(KeyRow::Home) << int(Finger::LeftIndex) << false << none;
-    QTest::newRow("h") << QChar(u'h') << int(KeyRow::Home) << int(Finger::RightIndex) << false << none;
-    QTest::newRow(";") << QChar(u';') << int(KeyRow::Home) << int(Finger::RightPinky) << false << none;
-    QTest::newRow("'") << QChar(u'\'') << int(KeyRow::Home) << int(Finger::RightPinky) << false << none;
-    QTest::newRow("e") << QChar(u'e') << int(KeyRow::Top) << int(Finger::LeftMiddle) << false << none;
-    QTest::newRow("y") << QChar(u'y') << int(KeyRow::Top) << int(Finger::RightIndex) << false << none;
-    QTest::newRow("b") << QChar(u'b') << int(KeyRow::Bottom) << int(Finger::LeftIndex) << false << none;
-    QTest::newRow(",") << QChar(u',') << int(KeyRow::Bottom) << int(Finger::RightMiddle) << false << none;
-    QTest::newRow("5") << QChar(u'5') << int(KeyRow::Number) << int(Finger::LeftIndex) << false << none;
-    QTest::newRow("6") << QChar(u'6') << int(KeyRow::Number) << int(Finger::RightIndex) << false << none;
-    QTest::newRow("0") << QChar(u'0') << int(KeyRow::Number) << int(Finger::RightPinky) << false << none;
-    QTest::newRow("space") << QChar(u' ') << int(KeyRow::Space) << int(Finger::Thumbs) << false << none;
+    QTest::newRow("a") << QChar(u'a') << int(KeyRow::Home) << int(Finger::LeftPinky) << false
+                       << none;
+    QTest::newRow("f") << QChar(u'f') << int(KeyRow::Home) << int(Finger::LeftIndex) << false
+                       << none;
+    QTest::newRow("g") << QChar(u'g') << int(KeyRow::Home) << int(Finger::LeftIndex) << false
+                       << none;
+    QTest::newRow("h") << QChar(u'h') << int(KeyRow::Home) << int(Finger::RightIndex) << false
+                       << none;
+    QTest::newRow(";") << QChar(u';') << int(KeyRow::Home) << int(Finger::RightPinky) << false
+                       << none;
+    QTest::newRow("'") << QChar(u'\'') << int(KeyRow::Home) << int(Finger::RightPinky) << false
+                       << none;
+    QTest::newRow("e") << QChar(u'e') << int(KeyRow::Top) << int(Finger::LeftMiddle) << false
+                       << none;
+    QTest::newRow("y") << QChar(u'y') << int(KeyRow::Top) << int(Finger::RightIndex) << false
+                       << none;
+    QTest::newRow("b") << QChar(u'b') << int(KeyRow::Bottom) << int(Finger::LeftIndex) << false
+                       << none;
+    QTest::newRow(",") << QChar(u',') << int(KeyRow::Bottom) << int(Finger::RightMiddle) << false
+                       << none;
+    QTest::newRow("5") << QChar(u'5') << int(KeyRow::Number) << int(Finger::LeftIndex) << false
+                       << none;
+    QTest::newRow("6") << QChar(u'6') << int(KeyRow::Number) << int(Finger::RightIndex) << false
+                       << none;
+    QTest::newRow("0") << QChar(u'0') << int(KeyRow::Number) << int(Finger::RightPinky) << false
+                       << none;
+    QTest::newRow("space") << QChar(u' ') << int(KeyRow::Space) << int(Finger::Thumbs) << false
+                           << none;
     // Shift is held by the other hand's little finger.
     QTest::newRow("A") << QChar(u'A') << int(KeyRow::Home) << int(Finger::LeftPinky) << true
                        << int(Finger::RightPinky);
@@ -155,7 +169,7 @@ void tst_typing_rules::drillsUseOnlyTaughtKeysOnRowsSwitchedOn()
 {
     const TypingTexts texts = ShippedTexts();
     const QList<TypingSettings> choices{
-        Rows(true, true, true, true, true),   Rows(true, true, true, false, false),
+        Rows(true, true, true, true, true),     Rows(true, true, true, false, false),
         Rows(false, true, false, false, false), Rows(true, false, true, true, true),
         Rows(false, false, true, false, true),
     };
@@ -187,7 +201,8 @@ void tst_typing_rules::drillsUseOnlyTaughtKeysOnRowsSwitchedOn()
                                         [&](QChar c) { return all.contains(c); }));
                     QVERIFY(drill.size() >= 3);
                     for (const QString &line : drill)
-                        QVERIFY2(line.size() <= DrillMaker::LineLength + TypingTexts::LongestSentence,
+                        QVERIFY2(line.size() <=
+                                     DrillMaker::LineLength + TypingTexts::LongestSentence,
                                  qPrintable(line));
                 }
             }
@@ -255,8 +270,7 @@ void tst_typing_rules::scriptedTyping_data()
     // first counts too: 26 / 5 = 5.2 words in a minute.
     QTest::newRow("one minute, no slips")
         << QStringList{QStringLiteral("abcdefghijklm"), QStringLiteral("nopqrstuvwxyz")}
-        << QStringLiteral("abcdefghijklmnopqrstuvwxyz") << 2400 << 26 << 0 << 100.0 << 5.2
-        << true;
+        << QStringLiteral("abcdefghijklmnopqrstuvwxyz") << 2400 << 26 << 0 << 100.0 << 5.2 << true;
     // Four wrong keys among 20: 80 %; 16 right in 19 gaps of 1 s.
     QTest::newRow("slips count against accuracy")
         << QStringList{QStringLiteral("sad lad asks")} << QStringLiteral("sxad lzad asxkzs") << 1000
@@ -264,8 +278,10 @@ void tst_typing_rules::scriptedTyping_data()
     QTest::newRow("half done") << QStringList{QStringLiteral("fff jjj")} << QStringLiteral("fff")
                                << 500 << 3 << 0 << 100.0 << 0.0 << false;
     QTest::newRow("control keys are ignored")
-        << QStringList{QStringLiteral("ab")} << QStringLiteral("a\x08\x1b" "b") << 30000 << 2 << 0
-        << 100.0 << (2 / 5.0) / 1.5 << true;
+        << QStringList{QStringLiteral("ab")}
+        << QStringLiteral("a\x08\x1b"
+                          "b")
+        << 30000 << 2 << 0 << 100.0 << (2 / 5.0) / 1.5 << true;
     QTest::newRow("nothing typed") << QStringList{QStringLiteral("ab")} << QString() << 1000 << 0
                                    << 0 << 100.0 << 0.0 << false;
 }
@@ -386,8 +402,7 @@ void tst_typing_rules::readerRefusesDamagedLines_data()
     QTest::newRow("empty word") << QByteArray("\"words\",\"\"\n") << 1 << 2;
     QTest::newRow("unknown kind") << ok + "\"poem\",\"x\"\n" << 3 << 1;
     QTest::newRow("sentence with a tab") << ok + "\"sentence\",\"a\tb\"\n" << 3 << 2;
-    QTest::newRow("sentence with an accent")
-        << ok + "\"sentence\",\"caf\xC3\xA9\"\n" << 3 << 2;
+    QTest::newRow("sentence with an accent") << ok + "\"sentence\",\"caf\xC3\xA9\"\n" << 3 << 2;
     QTest::newRow("two sentences on a line") << ok + "\"sentence\",\"a\",\"b\"\n" << 3 << 0;
     QTest::newRow("passage without title") << QByteArray("\"passage\",\"a b\"\n") << 1 << 0;
     QTest::newRow("passage with doubled blanks")
@@ -395,7 +410,8 @@ void tst_typing_rules::readerRefusesDamagedLines_data()
     QTest::newRow("no passages") << QByteArray("\"words\",\"sad\"\n") << 0 << 0;
     QTest::newRow("broken quote") << QByteArray("\"words\",\"sad\n") << 1 << 2;
     QTest::newRow("too long a passage")
-        << "\"words\",\"a\"\n\"passage\",\"T\",\"" + QByteArray(2001, 'a') + "\"\n" << 2 << 3;
+        << "\"words\",\"a\"\n\"passage\",\"T\",\"" + QByteArray(2001, 'a') + "\"\n"
+        << 2 << 3;
 }
 
 void tst_typing_rules::readerRefusesDamagedLines()
@@ -435,16 +451,16 @@ void tst_typing_rules::textsFitWhatMayBeTyped_data()
     QTest::addColumn<QString>("fitted");
     QTest::newRow("home row, no period yet")
         << QStringLiteral("A lad asks Dad.") << 1 << false << QStringLiteral("a lad asks dad");
-    QTest::newRow("a key not yet taught") << QStringLiteral("A red sled.") << 2 << false
-                                          << QString();
+    QTest::newRow("a key not yet taught")
+        << QStringLiteral("A red sled.") << 2 << false << QString();
     QTest::newRow("period taught") << QStringLiteral("Six kids fix the taxi.") << 11 << false
                                    << QStringLiteral("six kids fix the taxi.");
-    QTest::newRow("capitals with shift") << QStringLiteral("Max can mix.") << 15 << true
-                                         << QStringLiteral("Max can mix.");
-    QTest::newRow("question mark later") << QStringLiteral("Can you come?") << 15 << true
-                                         << QStringLiteral("Can you come");
-    QTest::newRow("mark inside needs its key") << QStringLiteral("Look: a cat.") << 15 << true
-                                               << QString();
+    QTest::newRow("capitals with shift")
+        << QStringLiteral("Max can mix.") << 15 << true << QStringLiteral("Max can mix.");
+    QTest::newRow("question mark later")
+        << QStringLiteral("Can you come?") << 15 << true << QStringLiteral("Can you come");
+    QTest::newRow("mark inside needs its key")
+        << QStringLiteral("Look: a cat.") << 15 << true << QString();
 }
 
 void tst_typing_rules::textsFitWhatMayBeTyped()

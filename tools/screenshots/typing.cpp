@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Scenes of Keyboarding: a lesson's introduction, a drill under way, a speed test and the
-// results of a sitting.
+// Scenes of Keyboarding: a drill on a small screen, a lesson's introduction, a drill under way,
+// a speed test and the results of a sitting.
 #include "Scene.h"
 
 #include "shell/core/Settings.h"
@@ -10,8 +10,8 @@
 
 #include <QListWidget>
 #include <QPushButton>
-#include <QTimer>
 #include <QTest>
+#include <QTimer>
 
 namespace {
 
@@ -39,6 +39,14 @@ void Type(frmType *window, int count, int wrongEvery, int gap)
 QList<Scene> typingScenes()
 {
     return {
+        // What a 1366 x 768 screen at 200 % leaves for a window.
+        {QStringLiteral("typing-small"),
+         [] {
+             auto *window = Open();
+             QTest::mouseClick(window->cmdStart, Qt::LeftButton);
+             return window;
+         },
+         QSize(683, 384)},
         {QStringLiteral("typing-lesson"),
          [] {
              auto *window = Open();
