@@ -86,14 +86,22 @@ QString DrillMaker::wordsLine(const QStringList &words, const QString &newKeys)
     return line;
 }
 
-QString DrillMaker::sentence(const QSet<QChar> &allowed, const QStringList &words)
+QString DrillMaker::sentence(const QSet<QChar> &allowed, const QStringList &words,
+                             const QString &newKeys)
 {
     QStringList fitting;
+    QStringList fresh;
     for (const QString &text : m_texts.sentences()) {
         const QString fitted = FitText(text, allowed);
-        if (!fitted.isEmpty())
-            fitting.append(fitted);
+        if (fitted.isEmpty())
+            continue;
+        fitting.append(fitted);
+        if (std::any_of(fitted.begin(), fitted.end(), [&](QChar c) { return newKeys.contains(c); }))
+            fresh.append(fitted);
     }
+    // A sentence that uses a new key is worth more than one that does not.
+    if (!fresh.isEmpty())
+        return fresh.at(draw(int(fresh.size())));
     if (!fitting.isEmpty())
         return fitting.at(draw(int(fitting.size())));
     // No written sentence fits so few keys yet: a string of real words stands in for one.
@@ -152,7 +160,24 @@ QStringList DrillMaker::make(int lesson, const TypingSettings &settings)
         lines.append(newKeyLine(newKeys, known.isEmpty() ? QString() : plainKeys));
         lines.append(groupsLine(plainKeys, newKeys));
     }
-    if (words.size() >= 3) {
+    const bool numbersLesson =
+        std::all_of(newKeys.begin(), newKeys.end(), [](QChar c) { return c.isDigit(); });
+    if (numbersLesson && !words.isEmpty()) {
+        // Numbers are practised as they are met in reading: a number, then a word.
+        QString digits;
+        for (QChar c : plainKeys)
+            if (c.isDigit())
+                digits += c;
+        QString line;
+        for (int tries = 0; tries < 20; ++tries) {
+            const QString pair = group(tries % 2 == 0 ? newKeys : digits, 1 + draw(3)) + u' ' +
+                                 words.at(draw(int(words.size())));
+            if (appendWord(line, pair).size() > LineLength)
+                break;
+            line = appendWord(line, pair);
+        }
+        lines.append(line);
+    } else if (words.size() >= 3) {
         QString line = wordsLine(words, newKeys);
         // Marks that end a sentence are practised at the end of a word.
         for (QChar c : newKeys)
@@ -163,7 +188,7 @@ QStringList DrillMaker::make(int lesson, const TypingSettings &settings)
     } else {
         lines.append(groupsLine(plainKeys, QString()));
     }
-    const QString last = sentence(allowed, words);
+    const QString last = sentence(allowed, words, newKeys);
     lines.append(last.isEmpty() ? groupsLine(plainKeys, newKeys) : last);
     lines.removeAll(QString());
     return lines;

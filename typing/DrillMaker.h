@@ -28,7 +28,7 @@ private:
     QString groupsLine(const QString &first, const QString &second);
     QString newKeyLine(const QString &keys, const QString &known);
     QString wordsLine(const QStringList &words, const QString &newKeys);
-    QString sentence(const QSet<QChar> &allowed, const QStringList &words);
+    QString sentence(const QSet<QChar> &allowed, const QStringList &words, const QString &newKeys);
 
     const TypingTexts &m_texts;
     RandomSource &m_random;

@@ -438,6 +438,9 @@ void frmType::typeChar(QChar c)
         return;
     case Exercise::Outcome::Wrong:
         Beep();
+        // A capital where a small letter belongs is most often Caps Lock left on.
+        if (c.isUpper() && c.toLower() == exercise.expected())
+            say(tr("Is Caps Lock on? Press it once and type the small letter."));
         break;
     case Exercise::Outcome::Right:
     case Exercise::Outcome::LineDone:

@@ -172,6 +172,10 @@ void tst_frmtype::everyKeyReachesTheTypingLine()
     // A key that no key of the map types is just a wrong key.
     window.key(QChar(u'\u00E9'));
     QCOMPARE(w->exercise().wrongKeys(), 3);
+    // A capital for a small letter hints at Caps Lock.
+    window.key(w->exercise().expected().toUpper());
+    QCOMPARE(w->exercise().wrongKeys(), 4);
+    QVERIFY(w->lblMessage->text().contains(QStringLiteral("Caps Lock")));
     // Escape stops the lesson.
     QTest::keyClick(w->txtType, Qt::Key_Escape);
     QCOMPARE(w->mode(), frmType::Mode::Idle);
