@@ -29,6 +29,12 @@ void TypingLineView::showExercise(const Exercise *exercise)
     update();
 }
 
+void TypingLineView::setPrompt(const QString &prompt)
+{
+    m_prompt = prompt;
+    update();
+}
+
 bool TypingLineView::event(QEvent *event)
 {
     // Plain keys must not be taken as shortcuts while the pupil types.
@@ -76,8 +82,15 @@ void TypingLineView::paintEvent(QPaintEvent *)
              hasFocus() && m_capturing ? 4 : 2));
     painter.setBrush(Qt::white);
     painter.drawRoundedRect(area, 12, 12);
-    if (!m_exercise || m_exercise->lines().isEmpty())
+    if (!m_exercise || m_exercise->lines().isEmpty()) {
+        QFont big = font();
+        big.setBold(true);
+        big.setPixelSize(std::max(10, int(area.height() * 0.42)));
+        painter.setFont(big);
+        painter.setPen(QColor(0x4A, 0x14, 0x8C));
+        painter.drawText(area, Qt::AlignCenter, m_prompt);
         return;
+    }
 
     const QString line =
         m_exercise->isFinished() ? m_exercise->lines().last() : m_exercise->currentLine();

@@ -16,6 +16,8 @@ public:
     explicit TypingLineView(QWidget *parent = nullptr);
 
     void showExercise(const Exercise *exercise);
+    // Big text shown while there is nothing to type, such as a lesson's new keys.
+    void setPrompt(const QString &prompt);
     void setCapturing(bool on) { m_capturing = on; }
     bool isCapturing() const { return m_capturing; }
 
@@ -33,5 +35,6 @@ protected:
 
 private:
     const Exercise *m_exercise = nullptr;
+    QString m_prompt;
     bool m_capturing = false;
 };

@@ -341,7 +341,8 @@ void frmType::showIntro()
     picKeyboard->setNextKey(QChar());
     m_lesson = Exercise();
     txtType->showExercise(nullptr);
-    lblStats->clear();
+    txtType->setPrompt(QString());
+    lblStats->setText(tr("Fingers rest on the home row: A S D F and J K L ;"));
     if (keys.isEmpty()) {
         picKeyboard->setLessonKeys(lesson.newKeys.toLower());
         lblMessage->setText(
@@ -354,6 +355,12 @@ void frmType::showIntro()
     }
     picKeyboard->setLessonKeys(keys.toLower());
     cmdStart->setEnabled(true);
+    QStringList shown;
+    for (QChar c : keys)
+        shown.append(KeyName(c));
+    // All capitals would crowd the line: a few stand for the lesson.
+    txtType->setPrompt(shown.size() > 6 ? QStringLiteral("A B C ... Z")
+                                        : shown.join(QStringLiteral("   ")));
     if (lesson.usesShift && keys.front().isUpper()) {
         lblMessage->setText(
             tr("Capitals: hold Shift with the little finger of the other hand, then press the "
@@ -567,8 +574,7 @@ void frmType::stopTyping(const QString &message)
     Timer1->stop();
     m_mode = Mode::Idle;
     setRunning(false);
-    picKeyboard->setNextKey(QChar());
-    lblStats->clear();
+    showIntro();
     say(message);
     lstLessons->setFocus();
 }
