@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "KeyboardView.h"
 
-#include <optional>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -110,9 +109,17 @@ void KeyboardView::paintEvent(QPaintEvent *)
                              QPointF(box.center().x() + unit / 8, box.bottom() - unit / 7));
     }
 
-    // Hands under the keyboard; the fingers that type the next key (and Shift) are lit.
-    Finger lit = next ? next->finger : Finger::Thumbs;
-    Finger litShift = shift ? shift->finger : Finger::Thumbs;
+    // Hands under the keyboard. The fingers that type the next key (and Shift) are lit; with
+    // no key to type, the fingers of the lesson's ringed keys are.
+    QList<Finger> lit;
+    if (next)
+        lit.append(next->finger);
+    if (shift)
+        lit.append(shift->finger);
+    if (!next)
+        for (QChar c : m_lessonKeys)
+            if (const Key *key = Keyboard::keyFor(c))
+                lit.append(key->finger);
     const double handTop = top + boardHeight + unit * 0.15;
     const double handHeight = height() - handTop - 2;
     if (handHeight < unit)
@@ -120,22 +127,12 @@ void KeyboardView::paintEvent(QPaintEvent *)
     const double handWidth = std::min(boardWidth * 0.36, handHeight * 1.15);
     const QRectF leftHand(width() / 2.0 - handWidth - unit * 0.6, handTop, handWidth, handHeight);
     const QRectF rightHand(width() / 2.0 + unit * 0.6, handTop, handWidth, handHeight);
-    const bool anyNext = next != nullptr;
-    auto litOn = [&](bool leftSide) -> std::optional<Finger> {
-        if (!anyNext)
-            return std::nullopt;
-        if (lit == Finger::Thumbs || Keyboard::isLeftHand(lit) == leftSide)
-            return lit;
-        if (shift && Keyboard::isLeftHand(litShift) == leftSide)
-            return litShift;
-        return std::nullopt;
-    };
-    drawHand(painter, leftHand, true, litOn(true));
-    drawHand(painter, rightHand, false, litOn(false));
+    drawHand(painter, leftHand, true, lit);
+    drawHand(painter, rightHand, false, lit);
 }
 
 void KeyboardView::drawHand(QPainter &painter, const QRectF &area, bool left,
-                            std::optional<Finger> lit)
+                            const QList<Finger> &lit)
 {
     // Fingers from the little finger inwards, with their heights as a share of the hand.
     static const double lengths[] = {0.33, 0.43, 0.48, 0.42};
@@ -150,7 +147,7 @@ void KeyboardView::drawHand(QPainter &painter, const QRectF &area, bool left,
     const QRectF palm(area.left() + w * 0.04, palmTop, w * 0.76, h * 0.55);
     const QColor skin(0xFF, 0xE0, 0xC2);
     const QColor outline(0x8D, 0x6E, 0x63);
-    const bool thumbLit = lit == Finger::Thumbs;
+    const bool thumbLit = lit.contains(Finger::Thumbs);
 
     auto mirror = [&](const QRectF &r) {
         if (left)
@@ -162,7 +159,7 @@ void KeyboardView::drawHand(QPainter &painter, const QRectF &area, bool left,
         const double fh = h * lengths[i];
         const QRectF rect = mirror(QRectF(area.left() + w * 0.05 + i * (fingerWidth + w * 0.02),
                                           palmTop + h * 0.1 - fh, fingerWidth, fh + h * 0.1));
-        const bool on = finger == lit;
+        const bool on = lit.contains(finger);
         painter.setPen(QPen(on ? QColor(0xD5, 0x00, 0x00) : outline, on ? 3 : 1.2));
         painter.setBrush(skin);
         painter.drawRoundedRect(rect, fingerWidth / 2, fingerWidth / 2);

@@ -3,7 +3,7 @@
 
 #include "Keyboard.h"
 
-#include <optional>
+#include <QList>
 #include <QWidget>
 
 // The on-screen keyboard with two hands beneath: every key in the colour of the finger that
@@ -26,7 +26,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void drawHand(QPainter &painter, const QRectF &area, bool left, std::optional<Finger> lit);
+    void drawHand(QPainter &painter, const QRectF &area, bool left, const QList<Finger> &lit);
 
     QChar m_next;
     QString m_lessonKeys;
