@@ -459,6 +459,8 @@ void frmType::typeChar(QChar c)
             finishLesson();
         return;
     }
+    if (m_mode == Mode::Test && exercise.rightKeys() + exercise.wrongKeys() == 1)
+        lblMessage->setText(tr("The clock is running. Keep your eyes on the text!"));
     refreshTyping();
     refreshStats();
 }
