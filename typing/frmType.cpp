@@ -254,6 +254,12 @@ frmType::frmType(QWidget *parent) : ActivityWindow(QStringLiteral("typing"), par
     connect(lstLessons, &QListWidget::itemActivated, this, [this] { onStartLesson(); });
     connect(cmdStart, &QPushButton::clicked, this, &frmType::onStartLesson);
     connect(cmdTest, &QPushButton::clicked, this, &frmType::onStartTest);
+    for (int i = 0; i < 2; ++i)
+        connect(optMinutes[i], &QRadioButton::toggled, this, [this, i](bool on) {
+            if (on && m_mode == Mode::Idle)
+                say(i == 0 ? tr("A speed test lasts 1 minute. Press Speed Test to start.")
+                           : tr("A speed test lasts 2 minutes. Press Speed Test to start."));
+        });
     for (QCheckBox *check : chkRow + QList<QCheckBox *>{chkGuide, chkShift})
         connect(check, &QCheckBox::toggled, this, &frmType::onSettingChanged);
     connect(txtType, &TypingLineView::typed, this, &frmType::typeChar);

@@ -189,6 +189,7 @@ void tst_frmtype::speedTestOnTheVirtualClock()
     frmType *w = window.w;
     QTest::mouseClick(w->optMinutes[1], Qt::LeftButton);
     QVERIFY(w->optMinutes[1]->isChecked());
+    QVERIFY(w->lblMessage->text().contains(QStringLiteral("2 minutes")));
     env.clock.now = 100000;
     QTest::mouseClick(w->cmdTest, Qt::LeftButton);
     QCOMPARE(w->mode(), frmType::Mode::Test);
