@@ -13,6 +13,7 @@
 #include "pizza/frmPizza.h"
 #include "spacerace/frmSRace.h"
 #include "stopthief/frmThief.h"
+#include "typing/frmType.h"
 
 namespace {
 template <typename Window> std::function<ActivityWindow *()> opens()
@@ -36,7 +37,7 @@ QList<ActivityEntry> Activities()
         {9, QStringLiteral("Calendar"), opens<frmCal>(), QStringLiteral("calendar")},
         {10, QStringLiteral("US Geography"), opens<frmGeo>(), QStringLiteral("usgeography")},
         {11, QStringLiteral("US Presidents"), {}, QStringLiteral("presidents")},
-        {12, QStringLiteral("Keyboarding"), {}, QStringLiteral("typing")},
+        {12, QStringLiteral("Keyboarding"), opens<frmType>(), QStringLiteral("typing")},
         // The card games open the one last played: 1 War, 2 Concentration, 3 Blackjack.
         {13, QStringLiteral("\tDeckhand"),
          CardGameOpener(opens<frmWar>(), opens<frmConc>(), opens<frmBlack>()),

@@ -9,6 +9,8 @@
 #include "shell/core/WriteFormat.h"
 #include "spacerace/WordList.h"
 #include "stopthief/ThiefData.h"
+#include "typing/Keyboard.h"
+#include "typing/TypingTexts.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -159,6 +161,23 @@ void graphFile(const QByteArray &input)
     const auto again = GraphFile::parse(GraphFile::format(*graph));
     if (!again || !(*again == *graph))
         FuzzFail("a graph written back read differently", input);
+// Texts that read can all be typed on the keyboard map, and words are small letters only.
+void typingTexts(const QByteArray &input)
+    TypingTexts texts;
+    const bool ok = texts.parse(input);
+    expectHonestError(ok, texts.error(), input);
+    if (!ok)
+    if (texts.words().isEmpty() || texts.passages().isEmpty())
+        FuzzFail("typing texts without words or passages were read", input);
+    for (const QString &word : texts.words())
+        if (word.isEmpty() || word != word.toLower() || !TypingTexts::isTypeable(word))
+            FuzzFail("a typing word that is not small letters was read", input);
+    for (const QString &sentence : texts.sentences())
+        if (!TypingTexts::isTypeable(sentence))
+            FuzzFail("an untypeable sentence was read", input);
+    for (const Passage &passage : texts.passages())
+        if (passage.text.isEmpty() || !TypingTexts::isTypeable(passage.text))
+            FuzzFail("an untypeable passage was read", input);
 }
 } // namespace
 
@@ -173,6 +192,7 @@ const QList<FuzzTarget> &FuzzTargets()
         {"calendar", {"calendar.dat"}, calendarData},
         {"graph", {"line.tsx", "bar1.tsx", "bar2.tsx", "pie1.tsx", "pie2.tsx"}, graphFile},
         {"spelling", {"grade1.srl", "grade3.srl", "grade5.srl", "tricky.srl"}, spellingList},
+        {"typing", {"typing.dat"}, typingTexts},
     };
     return targets;
 }

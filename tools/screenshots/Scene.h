@@ -27,3 +27,4 @@ QList<Scene> geographyScenes();
 QList<Scene> cardsScenes();
 QList<Scene> calendarScenes();
 QList<Scene> graphsScenes();
+QList<Scene> typingScenes();

@@ -52,6 +52,7 @@ int main(int argc, char *argv[])
     scenes += cardsScenes();
     scenes += calendarScenes();
     scenes += graphsScenes();
+    scenes += typingScenes();
     int written = 0;
     for (const Scene &scene : std::as_const(scenes)) {
         if (!filter.isEmpty() && !scene.name.contains(filter))
