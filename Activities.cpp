@@ -4,6 +4,7 @@
 
 #include "balloon/frmBall.h"
 #include "mathrace/frmMRace.h"
+#include "mathtutor/frmHMath.h"
 #include "pizza/frmPizza.h"
 #include "stopthief/frmThief.h"
 
@@ -20,7 +21,7 @@ QList<ActivityEntry> Activities()
         {0, QStringLiteral("World Geography"), {}, QStringLiteral("worldgeography")},
         {1, QStringLiteral("Balloon Man"), opens<frmBall>(), QStringLiteral("balloon")},
         {2, QStringLiteral("Space Race"), {}, QStringLiteral("spacerace")},
-        {3, QStringLiteral("Higher Math"), {}, QStringLiteral("mathtutor")},
+        {3, QStringLiteral("Higher Math"), opens<frmHMath>(), QStringLiteral("mathtutor")},
         {4, QStringLiteral("\tMath Race"), opens<frmMRace>(), QStringLiteral("mathrace")},
         {5, QStringLiteral("Lemonade Stand"), {}, QStringLiteral("lemonade")},
         {6, QStringLiteral("Candy Drive"), {}, QStringLiteral("candy")},
