@@ -364,9 +364,12 @@ QWidget *frmHMath::makeWorksheetPage()
     auto *sheetButtons = new QHBoxLayout;
     sheetButtons->addWidget(cmdNewSheet);
     sheetButtons->addWidget(cmdPrint);
+    // Side by side, so the page still fits a small screen at double size.
+    auto *choices = new QHBoxLayout;
+    choices->addWidget(counts);
+    choices->addWidget(layouts);
     auto *left = new QVBoxLayout;
-    left->addWidget(counts);
-    left->addWidget(layouts);
+    left->addLayout(choices);
     left->addWidget(chkKey);
     left->addWidget(chkShowKey);
     left->addStretch();

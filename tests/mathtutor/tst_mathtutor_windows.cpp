@@ -123,6 +123,10 @@ void tst_mathtutor_windows::opensWithTheLastChoicesInRange()
     QCOMPARE(TheSettings().mathTutor.values, (std::array<qint16, 3>{0, 5, 5}));
     QCOMPARE(win.w->worksheet().low, qint16(5));
 
+    // A 1366 x 768 screen at 200 % leaves 683 x 384, less a title bar.
+    QVERIFY(win.w->minimumSizeHint().width() <= 683);
+    QVERIFY2(win.w->minimumSizeHint().height() <= 344,
+             qPrintable(QString::number(win.w->minimumSizeHint().height())));
     QTest::keyClick(win.w, Qt::Key_F1);
     QCOMPARE(env.help.topics, QStringList{"mathtutor"});
 }
