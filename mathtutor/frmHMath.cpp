@@ -112,9 +112,6 @@ frmHMath::frmHMath(QWidget *parent)
     cmdPractice = MakeButton(tr("&Practice"), QStringLiteral("cmdPractice"), "#2E7D32", this, 16);
     cmdWorksheets =
         MakeButton(tr("&Worksheets"), QStringLiteral("cmdWorksheets"), "#6A1B9A", this, 16);
-    cmdHelp = MakeButton(tr("&Help"), QStringLiteral("cmdHelp"), "#00838F", this);
-    cmdExit = MakeButton(exitCaption(false), QStringLiteral("cmdExit"), "#C62828", this);
-    cmdExit->setAccessibleName(tr("Exit"));
     for (QPushButton *button : {cmdReview, cmdPractice, cmdWorksheets})
         button->setMinimumHeight(52);
 
@@ -122,6 +119,10 @@ frmHMath::frmHMath(QWidget *parent)
     stkParts->addWidget(makeReviewPage());
     stkParts->addWidget(makePracticePage());
     stkParts->addWidget(makeWorksheetPage());
+    // Made after the parts, so Tab reaches them before the end buttons.
+    cmdHelp = MakeButton(tr("&Help"), QStringLiteral("cmdHelp"), "#00838F", this);
+    cmdExit = MakeButton(exitCaption(false), QStringLiteral("cmdExit"), "#C62828", this);
+    cmdExit->setAccessibleName(tr("Exit"));
 
     auto *side = new QVBoxLayout;
     side->setSpacing(8);
