@@ -204,7 +204,7 @@ QWidget *frmHMath::makeReviewPage()
     lblPartners = MakeLabel(QStringLiteral("lblPartners"), page);
     lblPartners->setAccessibleName(tr("Partner facts"));
     lblPartners->setStyleSheet(QStringLiteral("color: #4A148C;"));
-    ScaleFont(lblPartners, 1.3, true);
+    ScaleFont(lblPartners, 1.0, true);
     cmdBack = MakeButton(tr("◀ &Back"), QStringLiteral("cmdBack"), "#EF6C00", page);
     cmdAnswer = MakeButton(tr("&Answer"), QStringLiteral("cmdAnswer"), "#2E7D32", page);
     cmdNext = MakeButton(tr("&Next ▶"), QStringLiteral("cmdNext"), "#1565C0", page);
@@ -270,7 +270,7 @@ QWidget *frmHMath::makePracticePage()
     lblMessage = MakeLabel(QStringLiteral("lblMessage"), page);
     lblMessage->setAccessibleName(tr("Message"));
     lblMessage->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-    ScaleFont(lblMessage, 1.3, true);
+    ScaleFont(lblMessage, 1.0, true);
     lblMessage->setStyleSheet(
         QStringLiteral("QLabel { background: #FFF9C4; color: #1A237E; border: 3px solid #FBC02D;"
                        " border-radius: 14px; padding: 6px; }"));
@@ -438,6 +438,12 @@ void frmHMath::sizeFonts()
     lblProblem->setFont(big);
     txtAnswer->setFont(big);
     txtAnswer->setFixedWidth(QFontMetrics(big).horizontalAdvance(QStringLiteral("000")) + 28);
+    // The words around the facts grow too, more gently.
+    for (QLabel *label : {lblMessage, lblPartners, lblProgress}) {
+        QFont words = label->font();
+        words.setPixelSize(qBound(16, height() / (label == lblProgress ? 36 : 28), 40));
+        label->setFont(words);
+    }
 }
 
 void frmHMath::storeSettings()
