@@ -2,10 +2,17 @@
 #include "WorksheetPaper.h"
 
 #include <cmath>
+#include <QCoreApplication>
 #include <QPainter>
 #include <QPainterPath>
 
 namespace {
+
+// The printed words, translated like every other text the pupil reads.
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("WorksheetPaper", text);
+}
 
 constexpr double Fine = PrintDocument::Fine;
 
@@ -96,9 +103,8 @@ void drawInARow(QPainter &painter, const QRectF &cell, const MathFact &fact, boo
 
 QString WorksheetPaper::title(const Worksheet &sheet)
 {
-    return QStringLiteral("%1 Facts %2 to %3 - Worksheet %4")
-        .arg(sheet.op == Operation::Multiply ? QStringLiteral("Multiplication")
-                                             : QStringLiteral("Division"))
+    return tr("%1 Facts %2 to %3 - Worksheet %4")
+        .arg(sheet.op == Operation::Multiply ? tr("Multiplication") : tr("Division"))
         .arg(sheet.low)
         .arg(sheet.high)
         .arg(sheet.number());
@@ -106,7 +112,7 @@ QString WorksheetPaper::title(const Worksheet &sheet)
 
 QString WorksheetPaper::keyTitle(const Worksheet &sheet)
 {
-    return QStringLiteral("Answer Key - Worksheet ") + sheet.number();
+    return tr("Answer Key - Worksheet ") + sheet.number();
 }
 
 QSize WorksheetPaper::grid(const Worksheet &sheet)
@@ -146,14 +152,14 @@ void WorksheetPaper::draw(QPainter &painter, const QRectF &area, const Worksheet
     constexpr double Foot = 40;
     if (key) {
         put(painter, QRectF(area.left(), area.top(), area.width(), Head),
-            Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("ANSWER KEY"), 24, true);
+            Qt::AlignLeft | Qt::AlignVCenter, tr("ANSWER KEY"), 24, true);
     } else {
         put(painter, QRectF(area.left(), area.top(), area.width(), Head),
             Qt::AlignLeft | Qt::AlignVCenter,
-            QStringLiteral("Name: ______________________  Date: ____________"), 20);
+            tr("Name: ______________________  Date: ____________"), 20);
     }
     put(painter, QRectF(area.left(), area.bottom() - Foot, area.width(), Foot), Qt::AlignCenter,
-        QStringLiteral("Worksheet number %1 makes this same sheet again.").arg(sheet.number()), 13);
+        tr("Worksheet number %1 makes this same sheet again.").arg(sheet.number()), 13);
 
     const QSize cells = grid(sheet);
     const QRectF field(area.left(), area.top() + Head + 10, area.width(),

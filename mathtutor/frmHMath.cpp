@@ -153,6 +153,9 @@ frmHMath::frmHMath(QWidget *parent)
         std::swap(low, high);
     if (op == Operation::Divide && high == 0)
         high = 1;
+    if (values[0] != qint16(op) || values[1] != low || values[2] != high)
+        qCInfo(lcMathTutor) << "settings" << values[0] << values[1] << values[2]
+                            << "brought into range as" << int(op) << low << high;
     m_settingControls = true;
     (op == Operation::Divide ? optDivide : optMultiply)->setChecked(true);
     spnLow->setValue(low);
