@@ -539,7 +539,8 @@ void frmHMath::onShowAnswer()
     m_answerShown = true;
     showReview();
     Announce(lblFact, reviewFact().withAnswer());
-    cmdNext->setFocus();
+    // At the last fact of the range there is no next one: Back is the way on.
+    (cmdNext->isEnabled() ? cmdNext : cmdBack)->setFocus();
 }
 
 void frmHMath::setRoundRunning(bool running)
