@@ -10,6 +10,7 @@
 #include "calendar/frmCal.h"
 #include "graphs/frmGraphs.h"
 #include "mathrace/frmMRace.h"
+#include "mathtutor/frmHMath.h"
 #include "pizza/frmPizza.h"
 #include "spacerace/frmSRace.h"
 #include "stopthief/frmThief.h"
@@ -28,7 +29,7 @@ QList<ActivityEntry> Activities()
         {0, QStringLiteral("World Geography"), {}, QStringLiteral("worldgeography")},
         {1, QStringLiteral("Balloon Man"), opens<frmBall>(), QStringLiteral("balloon")},
         {2, QStringLiteral("Space Race"), opens<frmSRace>(), QStringLiteral("spacerace")},
-        {3, QStringLiteral("Higher Math"), {}, QStringLiteral("mathtutor")},
+        {3, QStringLiteral("Higher Math"), opens<frmHMath>(), QStringLiteral("mathtutor")},
         {4, QStringLiteral("\tMath Race"), opens<frmMRace>(), QStringLiteral("mathrace")},
         {5, QStringLiteral("Lemonade Stand"), {}, QStringLiteral("lemonade")},
         {6, QStringLiteral("Candy Drive"), {}, QStringLiteral("candy")},

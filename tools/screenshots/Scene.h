@@ -28,3 +28,4 @@ QList<Scene> cardsScenes();
 QList<Scene> calendarScenes();
 QList<Scene> graphsScenes();
 QList<Scene> typingScenes();
+QList<Scene> mathtutorScenes();

@@ -53,6 +53,7 @@ int main(int argc, char *argv[])
     scenes += calendarScenes();
     scenes += graphsScenes();
     scenes += typingScenes();
+    scenes += mathtutorScenes();
     int written = 0;
     for (const Scene &scene : std::as_const(scenes)) {
         if (!filter.isEmpty() && !scene.name.contains(filter))
