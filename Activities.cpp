@@ -4,6 +4,7 @@
 
 #include "balloon/frmBall.h"
 #include "geography/frmGeo.h"
+#include "geography/frmWGeo.h"
 #include "mathrace/frmMRace.h"
 #include "pizza/frmPizza.h"
 #include "spacerace/frmSRace.h"
@@ -19,7 +20,7 @@ template <typename Window> std::function<ActivityWindow *()> opens()
 QList<ActivityEntry> Activities()
 {
     return {
-        {0, QStringLiteral("World Geography"), {}, QStringLiteral("worldgeography")},
+        {0, QStringLiteral("World Geography"), opens<frmWGeo>(), QStringLiteral("worldgeography")},
         {1, QStringLiteral("Balloon Man"), opens<frmBall>(), QStringLiteral("balloon")},
         {2, QStringLiteral("Space Race"), opens<frmSRace>(), QStringLiteral("spacerace")},
         {3, QStringLiteral("Higher Math"), {}, QStringLiteral("mathtutor")},

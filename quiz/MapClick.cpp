@@ -133,7 +133,8 @@ int MapClick::outlineNear(QPointF click, double reach) const
     for (qsizetype i = 0; i < m_outlines.size(); ++i) {
         const double d = OutlineDistance(m_outlines[i], click);
         const bool tie = found != 0 && qAbs(d - best) < 1e-9;
-        if (d <= reach && (found == 0 || (d < best && !tie) || (tie && m_areas[i] < m_areas[found - 1]))) {
+        if (d <= reach &&
+            (found == 0 || (d < best && !tie) || (tie && m_areas[i] < m_areas[found - 1]))) {
             best = d;
             found = int(i + 1);
         }

@@ -38,8 +38,8 @@ bool QuizTable::read(WriteReader &reader, const Layout &layout)
     if (records == 0) {
         records = int(qMin<qsizetype>(reader.lineCount(), std::numeric_limits<qint16>::max()));
         if (!reader.failed() && records < layout.minRecords)
-            m_error = FileError{layout.fileName, 0, 0,
-                                QStringLiteral("the file holds too few records")};
+            m_error =
+                FileError{layout.fileName, 0, 0, QStringLiteral("the file holds too few records")};
     }
     for (int r = 1; r <= records && !reader.failed() && !m_error.isSet(); ++r) {
         reader.beginLine(layout.fields);
@@ -60,7 +60,8 @@ bool QuizTable::read(WriteReader &reader, const Layout &layout)
                 break;
             }
             if (!reader.failed() && !inRange(layout, f, values[f - 1])) {
-                m_error = FileError{layout.fileName, r, f, QStringLiteral("the number is out of range")};
+                m_error =
+                    FileError{layout.fileName, r, f, QStringLiteral("the number is out of range")};
                 break;
             }
             fields.append(text);

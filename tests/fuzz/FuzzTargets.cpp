@@ -3,6 +3,7 @@
 
 #include "balloon/BalloonWords.h"
 #include "geography/UsStates.h"
+#include "geography/WorldCountries.h"
 #include "shell/core/Settings.h"
 #include "shell/core/WriteFormat.h"
 #include "spacerace/WordList.h"
@@ -145,6 +146,7 @@ const QList<FuzzTarget> &FuzzTargets()
         {"thief", {"thief.dat"}, thiefData},
         {"balloon", {"balloon.dat"}, balloonWords},
         {"usgeo", {"usgeo.dat"}, [](const QByteArray &in) { quizTable(in, UsStates::Layout()); }},
+        {"wgeo", {"wgeo.dat"}, [](const QByteArray &in) { quizTable(in, WorldCountries::Layout()); }},
         {"spelling", {"grade1.srl", "grade3.srl", "grade5.srl", "tricky.srl"}, spellingList},
     };
     return targets;
