@@ -7,6 +7,7 @@
 #include "geography/frmWGeo.h"
 #include "mathrace/frmMRace.h"
 #include "pizza/frmPizza.h"
+#include "presidents/frmPres.h"
 #include "spacerace/frmSRace.h"
 #include "stopthief/frmThief.h"
 
@@ -31,7 +32,7 @@ QList<ActivityEntry> Activities()
         {8, QStringLiteral("Graphs && Charts"), {}, QStringLiteral("graphs")},
         {9, QStringLiteral("Calendar"), {}, QStringLiteral("calendar")},
         {10, QStringLiteral("US Geography"), opens<frmGeo>(), QStringLiteral("usgeography")},
-        {11, QStringLiteral("US Presidents"), {}, QStringLiteral("presidents")},
+        {11, QStringLiteral("US Presidents"), opens<frmPres>(), QStringLiteral("presidents")},
         {12, QStringLiteral("Keyboarding"), {}, QStringLiteral("typing")},
         // The card games open the one last played: 1 War, 2 Concentration, 3 Blackjack.
         {13, QStringLiteral("\tDeckhand"), {}, QStringLiteral("cards")},

@@ -25,3 +25,4 @@ QList<Scene> balloonScenes();
 QList<Scene> spaceraceScenes();
 QList<Scene> geographyScenes();
 QList<Scene> worldgeoScenes();
+QList<Scene> presidentsScenes();

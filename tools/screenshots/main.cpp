@@ -34,6 +34,7 @@ int main(int argc, char *argv[])
     scenes += spaceraceScenes();
     scenes += geographyScenes();
     scenes += worldgeoScenes();
+    scenes += presidentsScenes();
     int written = 0;
     for (const Scene &scene : std::as_const(scenes)) {
         if (!filter.isEmpty() && !scene.name.contains(filter))
