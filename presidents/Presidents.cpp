@@ -47,6 +47,7 @@ QuizTable::Layout Layout()
     return {.fileName = QString::fromLatin1(FileName),
             .records = 0,
             .fields = Fields,
+            .numberFields = {},
             .requiredFields = {Name, BirthDate, TermBegan},
             .minRecords = FewestRecords};
 }
