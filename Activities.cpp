@@ -9,9 +9,11 @@
 #include "cards/frmWar.h"
 #include "calendar/frmCal.h"
 #include "graphs/frmGraphs.h"
+#include "geography/frmWGeo.h"
 #include "mathrace/frmMRace.h"
 #include "mathtutor/frmHMath.h"
 #include "pizza/frmPizza.h"
+#include "presidents/frmPres.h"
 #include "spacerace/frmSRace.h"
 #include "stopthief/frmThief.h"
 #include "typing/frmType.h"
@@ -26,7 +28,7 @@ template <typename Window> std::function<ActivityWindow *()> opens()
 QList<ActivityEntry> Activities()
 {
     return {
-        {0, QStringLiteral("World Geography"), {}, QStringLiteral("worldgeography")},
+        {0, QStringLiteral("World Geography"), opens<frmWGeo>(), QStringLiteral("worldgeography")},
         {1, QStringLiteral("Balloon Man"), opens<frmBall>(), QStringLiteral("balloon")},
         {2, QStringLiteral("Space Race"), opens<frmSRace>(), QStringLiteral("spacerace")},
         {3, QStringLiteral("Higher Math"), opens<frmHMath>(), QStringLiteral("mathtutor")},
@@ -37,8 +39,8 @@ QList<ActivityEntry> Activities()
         {8, QStringLiteral("Graphs && Charts"), opens<frmGraphs>(), QStringLiteral("graphs")},
         {9, QStringLiteral("Calendar"), opens<frmCal>(), QStringLiteral("calendar")},
         {10, QStringLiteral("US Geography"), opens<frmGeo>(), QStringLiteral("usgeography")},
-        {11, QStringLiteral("US Presidents"), {}, QStringLiteral("presidents")},
         {12, QStringLiteral("Keyboarding"), opens<frmType>(), QStringLiteral("typing")},
+        {11, QStringLiteral("US Presidents"), opens<frmPres>(), QStringLiteral("presidents")},
         // The card games open the one last played: 1 War, 2 Concentration, 3 Blackjack.
         {13, QStringLiteral("\tDeckhand"),
          CardGameOpener(opens<frmWar>(), opens<frmConc>(), opens<frmBlack>()),

@@ -6,6 +6,9 @@
 #include <QJsonDocument>
 #include <QtMath>
 
+#include <cmath>
+#include <limits>
+
 std::optional<Outline> ParseOutline(const QJsonValue &value)
 {
     if (!value.isArray())
@@ -75,9 +78,12 @@ void MapClick::setOutline(int record, const Outline &outline)
 {
     if (record < 1)
         return;
-    if (m_outlines.size() < record)
+    if (m_outlines.size() < record) {
         m_outlines.resize(record);
+        m_areas.resize(record);
+    }
     m_outlines[record - 1] = outline;
+    m_areas[record - 1] = OutlineArea(outline);
 }
 
 int MapClick::outlineAt(QPointF click) const
@@ -88,10 +94,61 @@ int MapClick::outlineAt(QPointF click) const
     return 0;
 }
 
-int MapClick::recordAt(QPointF click, int current) const
+double OutlineDistance(const Outline &outline, QPointF point)
+{
+    double best = std::numeric_limits<double>::infinity();
+    for (const QList<QPointF> &polygon : outline) {
+        const qsizetype n = polygon.size();
+        for (qsizetype i = 0, j = n - 1; i < n; j = i++) {
+            const QPointF a = polygon[j];
+            const QPointF edge = polygon[i] - a;
+            const double length2 = QPointF::dotProduct(edge, edge);
+            const double t = length2 > 0
+                                 ? qBound(0.0, QPointF::dotProduct(point - a, edge) / length2, 1.0)
+                                 : 0.0;
+            const QPointF gap = point - (a + t * edge);
+            best = qMin(best, std::hypot(gap.x(), gap.y()));
+        }
+    }
+    return best;
+}
+
+double OutlineArea(const Outline &outline)
+{
+    double area = 0;
+    for (const QList<QPointF> &polygon : outline) {
+        double twice = 0;
+        const qsizetype n = polygon.size();
+        for (qsizetype i = 0, j = n - 1; i < n; j = i++)
+            twice += polygon[j].x() * polygon[i].y() - polygon[i].x() * polygon[j].y();
+        area += std::abs(twice) / 2;
+    }
+    return area;
+}
+
+int MapClick::outlineNear(QPointF click, double reach) const
+{
+    int found = 0;
+    double best = 0;
+    for (qsizetype i = 0; i < m_outlines.size(); ++i) {
+        const double d = OutlineDistance(m_outlines[i], click);
+        const bool tie = found != 0 && qAbs(d - best) < 1e-9;
+        if (d <= reach &&
+            (found == 0 || (d < best && !tie) || (tie && m_areas[i] < m_areas[found - 1]))) {
+            best = d;
+            found = int(i + 1);
+        }
+    }
+    return found;
+}
+
+int MapClick::recordAt(QPointF click, int current, double reach) const
 {
     if (const int inside = outlineAt(click))
         return inside;
+    if (reach > 0)
+        if (const int near = outlineNear(click, reach))
+            return near;
     // Clicks come in fractions of a map unit; the nearest-point rule works in whole units.
     return NearestRecord(m_points, QPoint(qRound(click.x()), qRound(click.y())), current);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "QuizTable.h"
 
+#include <limits>
+
 Q_LOGGING_CATEGORY(lcQuiz, "lumbridle.quiz")
 
 bool QuizTable::load(const QString &path, const Layout &layout)
@@ -17,12 +19,29 @@ bool QuizTable::parse(const QByteArray &content, const Layout &layout)
     return read(reader, layout);
 }
 
+namespace {
+bool inRange(const QuizTable::Layout &layout, int field, qint16 value)
+{
+    for (const QuizTable::Layout::Range &range : layout.ranges)
+        if (range.field == field && (value < range.low || value > range.high))
+            return false;
+    return true;
+}
+} // namespace
+
 bool QuizTable::read(WriteReader &reader, const Layout &layout)
 {
     m_error = FileError();
     QList<QStringList> texts;
     QList<QList<qint16>> numbers;
-    for (int r = 1; r <= layout.records && !reader.failed(); ++r) {
+    int records = layout.records;
+    if (records == 0) {
+        records = int(qMin<qsizetype>(reader.lineCount(), std::numeric_limits<qint16>::max()));
+        if (!reader.failed() && records < layout.minRecords)
+            m_error =
+                FileError{layout.fileName, 0, 0, QStringLiteral("the file holds too few records")};
+    }
+    for (int r = 1; r <= records && !reader.failed() && !m_error.isSet(); ++r) {
         reader.beginLine(layout.fields);
         QStringList fields;
         QList<qint16> values(layout.fields, 0);
@@ -38,6 +57,11 @@ bool QuizTable::read(WriteReader &reader, const Layout &layout)
             }
             if (!reader.failed() && layout.requiredFields.contains(f) && text.trimmed().isEmpty()) {
                 m_error = FileError{layout.fileName, r, f, QStringLiteral("the item is empty")};
+                break;
+            }
+            if (!reader.failed() && !inRange(layout, f, values[f - 1])) {
+                m_error =
+                    FileError{layout.fileName, r, f, QStringLiteral("the number is out of range")};
                 break;
             }
             fields.append(text);

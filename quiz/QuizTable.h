@@ -17,12 +17,21 @@ class QuizTable {
 public:
     struct Layout {
         QString fileName;
+        // A fixed number of records, or 0 for as many as the file holds (at least minRecords).
         int records = 0;
         int fields = 0;
         // Read as numbers and rounded half to even into 16 bits (map points, orders).
         QList<int> numberFields;
         // Must not be empty: a blank answer could never be given.
         QList<int> requiredFields;
+        // Number fields that index a table of the activity's own must lie in its range.
+        struct Range {
+            int field = 0;
+            int low = 0;
+            int high = 0;
+        };
+        QList<Range> ranges{};
+        int minRecords = 1;
     };
 
     bool load(const QString &path, const Layout &layout);

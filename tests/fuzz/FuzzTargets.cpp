@@ -5,6 +5,9 @@
 #include "calendar/CalendarData.h"
 #include "geography/UsStates.h"
 #include "graphs/Graph.h"
+#include "geography/WorldCountries.h"
+#include "presidents/Presidents.h"
+#include "shell/core/Random.h"
 #include "shell/core/Settings.h"
 #include "shell/core/WriteFormat.h"
 #include "spacerace/WordList.h"
@@ -178,6 +181,32 @@ void typingTexts(const QByteArray &input)
     for (const Passage &passage : texts.passages())
         if (passage.text.isEmpty() || !TypingTexts::isTypeable(passage.text))
             FuzzFail("an untypeable passage was read", input);
+// Any presidents' table that reads must give texts for every item, and a question of Who Is
+// Missing? that keeps its promises, whatever its dates and names hold.
+void presidentsData(const QByteArray &input)
+    QuizTable table;
+    const bool ok = table.parse(input, Presidents::Layout());
+    expectHonestError(ok, table.error(), input);
+    // As many presidencies as the file holds, but never too few for a row and four choices.
+    if (table.count() < Presidents::FewestRecords)
+        FuzzFail("a presidents' table read with too few records", input);
+    for (int n = 1; n <= table.count(); ++n)
+        if (table.text(n, Presidents::Name).isEmpty())
+            FuzzFail("a presidents' table read with a blank name", input);
+    const bool datesRead = !Presidents::CheckDates(table).isSet();
+    Randomize(input.size());
+    for (int n = 1; n <= table.count(); ++n) {
+        // The first and last presidencies are where rows are moved and ranges clamped.
+        if (n > 64 && n <= table.count() - 64)
+            continue;
+        if (datesRead && Presidents::BirthDateText(table, n).isEmpty())
+            FuzzFail("a checked birth date shown as nothing", input);
+        Presidents::TermText(table, n);
+        const Presidents::WhoIsMissing who = Presidents::BuildWhoIsMissing(table, n);
+        if (who.row[0] < 1 || who.row[2] > table.count() || who.correct < 1 ||
+            who.choices[who.correct - 1] != n)
+            FuzzFail("a Who Is Missing? question out of the records", input);
+    }
 }
 } // namespace
 
@@ -191,6 +220,8 @@ const QList<FuzzTarget> &FuzzTargets()
         {"usgeo", {"usgeo.dat"}, [](const QByteArray &in) { quizTable(in, UsStates::Layout()); }},
         {"calendar", {"calendar.dat"}, calendarData},
         {"graph", {"line.tsx", "bar1.tsx", "bar2.tsx", "pie1.tsx", "pie2.tsx"}, graphFile},
+        {"wgeo", {"wgeo.dat"}, [](const QByteArray &in) { quizTable(in, WorldCountries::Layout()); }},
+        {"uspres", {"uspres.dat"}, presidentsData},
         {"spelling", {"grade1.srl", "grade3.srl", "grade5.srl", "tricky.srl"}, spellingList},
         {"typing", {"typing.dat"}, typingTexts},
     };

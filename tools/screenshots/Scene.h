@@ -29,3 +29,5 @@ QList<Scene> calendarScenes();
 QList<Scene> graphsScenes();
 QList<Scene> typingScenes();
 QList<Scene> mathtutorScenes();
+QList<Scene> worldgeoScenes();
+QList<Scene> presidentsScenes();

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Scenes of US Geography: the window as it opens, the review of a state, and a question of
-// each quiz, typed and picked, part-way through.
+// Scenes of US Geography and World Geography: the window as it opens, the review of a place,
+// and a question of each quiz, typed and picked, part-way through.
 #include "Scene.h"
 
 #include "geography/FlagButton.h"
 #include "geography/frmGeo.h"
+#include "geography/frmWGeo.h"
 #include "shell/core/Random.h"
 #include "shell/core/Settings.h"
 
@@ -31,7 +32,74 @@ frmGeo *InMode(int mode, int answerType, int direction = 0)
     return window;
 }
 
+frmWGeo *WorldInMode(int mode, int answerType, int direction = 0)
+{
+    auto &values = TheSettings().worldGeography.values;
+    values[0] = qint16(answerType);
+    if (mode == Capitals)
+        values[1] = qint16(direction);
+    if (mode == FindIt)
+        values[2] = qint16(direction);
+    if (mode == Flags)
+        values[3] = qint16(direction);
+    Randomize(mode * 11 + direction);
+    auto *window = new frmWGeo;
+    window->cmdChoice[mode - 1]->click();
+    return window;
+}
+
 } // namespace
+
+QList<Scene> worldgeoScenes()
+{
+    return {
+        {QStringLiteral("worldgeo-start"), [] { return new frmWGeo; }},
+        {QStringLiteral("worldgeo-review"), [] { return WorldInMode(Review, 1); }},
+        // A country at the map's edge: the pointer turns inwards.
+        {QStringLiteral("worldgeo-review-edge"),
+         [] {
+             frmWGeo *window = WorldInMode(Review, 1);
+             while (window->quiz().currentRecord() != 62) // New Zealand
+                 window->cmdNext->click();
+             return window;
+         }},
+        {QStringLiteral("worldgeo-capitals"),
+         [] {
+             frmWGeo *window = WorldInMode(Capitals, 0, 1);
+             window->txtAnswer->setText(QStringLiteral("Peru"));
+             QMetaObject::invokeMethod(window->txtAnswer, "returnPressed");
+             return window;
+         }},
+        {QStringLiteral("worldgeo-clues"),
+         [] {
+             frmWGeo *window = WorldInMode(NameIt, 1);
+             for (int i = 0; i < 3; ++i)
+                 window->cmdClue->click();
+             return window;
+         }},
+        {QStringLiteral("worldgeo-find"),
+         [] {
+             frmWGeo *window = WorldInMode(FindIt, 1, 0);
+             const int right = window->quiz().correctChoice();
+             window->lblanswer[right % 4]->click();
+             return window;
+         }},
+        {QStringLiteral("worldgeo-findmap"), [] { return WorldInMode(FindIt, 0, 1); }},
+        {QStringLiteral("worldgeo-flags"),
+         [] {
+             frmWGeo *window = WorldInMode(Flags, 1, 0);
+             window->imgFlagGame[window->quiz().correctChoice() - 1]->click();
+             return window;
+         }},
+        {QStringLiteral("worldgeo-nameflag"), [] { return WorldInMode(Flags, 0, 1); }},
+        {QStringLiteral("worldgeo-small"),
+         [] {
+             frmWGeo *window = WorldInMode(Review, 1);
+             return window;
+         },
+         QSize(683, 340)},
+    };
+}
 
 QList<Scene> geographyScenes()
 {

@@ -54,6 +54,8 @@ int main(int argc, char *argv[])
     scenes += graphsScenes();
     scenes += typingScenes();
     scenes += mathtutorScenes();
+    scenes += worldgeoScenes();
+    scenes += presidentsScenes();
     int written = 0;
     for (const Scene &scene : std::as_const(scenes)) {
         if (!filter.isEmpty() && !scene.name.contains(filter))
