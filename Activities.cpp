@@ -3,6 +3,7 @@
 #include "Activities.h"
 
 #include "balloon/frmBall.h"
+#include "lemonade/frmLemon.h"
 #include "mathrace/frmMRace.h"
 #include "pizza/frmPizza.h"
 #include "stopthief/frmThief.h"
@@ -22,7 +23,7 @@ QList<ActivityEntry> Activities()
         {2, QStringLiteral("Space Race"), {}, QStringLiteral("spacerace")},
         {3, QStringLiteral("Higher Math"), {}, QStringLiteral("mathtutor")},
         {4, QStringLiteral("\tMath Race"), opens<frmMRace>(), QStringLiteral("mathrace")},
-        {5, QStringLiteral("Lemonade Stand"), {}, QStringLiteral("lemonade")},
+        {5, QStringLiteral("Lemonade Stand"), opens<frmLemon>(), QStringLiteral("lemonade")},
         {6, QStringLiteral("Candy Drive"), {}, QStringLiteral("candy")},
         {7, QStringLiteral("Stop Thief!"), opens<frmThief>(), QStringLiteral("stopthief")},
         {8, QStringLiteral("Graphs && Charts"), {}, QStringLiteral("graphs")},

@@ -22,3 +22,4 @@ QList<Scene> mathraceScenes();
 QList<Scene> stopthiefScenes();
 QList<Scene> pizzaScenes();
 QList<Scene> balloonScenes();
+QList<Scene> lemonadeScenes();

@@ -25,7 +25,7 @@ int main(int argc, char *argv[])
     QDir().mkpath(out);
 
     const QList<Scene> scenes = shellScenes() + mathraceScenes() + stopthiefScenes() +
-                                balloonScenes() + pizzaScenes();
+                                balloonScenes() + pizzaScenes() + lemonadeScenes();
     int written = 0;
     for (const Scene &scene : std::as_const(scenes)) {
         if (!filter.isEmpty() && !scene.name.contains(filter))
