@@ -63,10 +63,14 @@ PrintDocument SummerPapers::document(const Summer &summer, const QString &name)
     PrintDocument paper(tr("Lemonade Stand: My Summer"),
                         tr("Lemonade Stand: My Summer (continued)"));
     const QFont base = paper.fineFont();
+    // The certificate is lettered in the program's friendly type; the report keeps the
+    // printing font, whose even letters line up the columns.
+    QFont friendly(QStringLiteral("Comic Sans MS"));
+    friendly.setPixelSize(base.pixelSize());
     const QString achieved = achievement(summer);
     const QString who = name.trimmed();
 
-    paper.addDrawing(560, [base, achieved, who](QPainter &painter, const QRect &area) {
+    paper.addDrawing(490, [friendly, achieved, who](QPainter &painter, const QRect &area) {
         painter.setRenderHint(QPainter::Antialiasing);
         const QRectF frame = QRectF(area).adjusted(4, 4, -4, -4);
         painter.setPen(QPen(QColor(0xF9, 0xA8, 0x25), 10));
@@ -82,24 +86,24 @@ PrintDocument SummerPapers::document(const Summer &summer, const QString &name)
 
         const double x = frame.left() + 80;
         const double w = frame.width() - 160;
-        DrawText(painter, QRectF(x, frame.top() + 40, w, 60), tr("Certificate"), base, 46, true,
+        DrawText(painter, QRectF(x, frame.top() + 40, w, 60), tr("Certificate"), friendly, 46, true,
                  QColor(0xE6, 0x51, 0x00));
-        DrawText(painter, QRectF(x, frame.top() + 105, w, 40), tr("Lemonade Stand"), base, 26, true,
-                 QColor(0x2E, 0x7D, 0x32));
+        DrawText(painter, QRectF(x, frame.top() + 105, w, 40), tr("Lemonade Stand"), friendly, 26,
+                 true, QColor(0x2E, 0x7D, 0x32));
         DrawText(painter, QRectF(x, frame.top() + 170, w, 30), tr("This certificate is given to"),
-                 base, 18, false, Qt::black);
+                 friendly, 18, false, Qt::black);
         if (who.isEmpty()) {
             painter.setPen(QPen(Qt::black, 1.5));
             painter.drawLine(QPointF(x + 60, frame.top() + 255),
                              QPointF(x + w - 60, frame.top() + 255));
         } else {
-            DrawText(painter, QRectF(x, frame.top() + 205, w, 55), who, base, 32, true,
+            DrawText(painter, QRectF(x, frame.top() + 205, w, 55), who, friendly, 32, true,
                      QColor(0x1A, 0x23, 0x7E));
         }
-        DrawText(painter, QRectF(x, frame.top() + 280, w, 110), achieved, base, 20, false,
+        DrawText(painter, QRectF(x, frame.top() + 280, w, 110), achieved, friendly, 20, false,
                  Qt::black);
-        DrawText(painter, QRectF(x, frame.top() + 410, w, 40), tr("Well done, business owner!"),
-                 base, 20, true, QColor(0xE6, 0x51, 0x00));
+        DrawText(painter, QRectF(x, frame.top() + 390, w, 40), tr("Well done, business owner!"),
+                 friendly, 20, true, QColor(0xE6, 0x51, 0x00));
     });
 
     paper.addBlankLine();
