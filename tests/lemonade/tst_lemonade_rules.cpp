@@ -107,8 +107,7 @@ void tst_lemonade_rules::moneyAndStockAddUpEveryWeek()
             QCOMPARE(summer.money(), r->moneyAfter());
             QVERIFY(summer.money() >= 0);
             QCOMPARE(r->taken, qint64(r->sold) * plan.price);
-            QCOMPARE(r->spent(), qint64(plan.bags) * r->lemonCost / qMax(1, plan.bags) +
-                                     r->cupCost + qint64(plan.posters) * Summer::PosterCost);
+            QCOMPARE(r->posterCost, qint64(plan.posters) * Summer::PosterCost);
             QCOMPARE(r->cupsAtStart, cupsBefore + plan.stacks * Summer::CupsPerStack);
             QCOMPARE(r->lemonsUsed + r->lemonsSpoiled, plan.bags * Summer::LemonsPerBag);
             QVERIFY(r->lemonsSpoiled >= 0);
@@ -322,18 +321,11 @@ void tst_lemonade_rules::aSeedReplaysTheSummer()
     PlaySummer(42, CarefulPlan, &first);
     PlaySummer(42, CarefulPlan, &second);
     auto fingerprint = [](const Summer &s) {
-        QStringList text;
+        QList<qint64> figures;
         for (const WeekReport &r : s.reports())
-            text << QStringLiteral("%1 %2 %3 %4 %5 %6 %7 %8")
-                        .arg(int(r.forecast))
-                        .arg(int(r.weather))
-                        .arg(r.temperature)
-                        .arg(r.lemonCost)
-                        .arg(r.cupCost)
-                        .arg(r.came)
-                        .arg(r.sold)
-                        .arg(r.moneyAfter());
-        return text;
+            figures << int(r.weather) << r.temperature << r.lemonCost << r.cupCost << r.came
+                    << r.sold << r.moneyAfter();
+        return figures;
     };
     QCOMPARE(first.reports().size(), Summer::LongSummer);
     QCOMPARE(fingerprint(first), fingerprint(second));

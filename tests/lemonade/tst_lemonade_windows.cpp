@@ -297,32 +297,22 @@ void tst_lemonade_windows::theSeasonPapers()
             drawings += item.drawing ? 1 : 0;
         }
     QCOMPARE(drawings, 2);
-    for (const WeekReport &r : summer.reports())
-        QVERIFY2(lines.filter(QRegularExpression(QStringLiteral("^%1 .*%2$")
-                                                     .arg(r.week)
-                                                     .arg(QRegularExpression::escape(
-                                                         WeekReport::money(r.profit())))))
-                         .size() == 1,
-                 qPrintable(QString::number(r.week)));
+    const QStringList weeks = lines.filter(QRegularExpression(QStringLiteral("^\\d+ ")));
+    QCOMPARE(weeks.size(), summer.reports().size());
+    for (int i = 0; i < weeks.size(); ++i)
+        QVERIFY(weeks[i].endsWith(u' ' + WeekReport::money(summer.reports()[i].profit())));
     QVERIFY(
         lines.contains(QStringLiteral("Money at the end: ") + WeekReport::money(summer.money())));
     const QString achieved = SummerPapers::achievement(summer);
     QVERIFY(achieved.startsWith(QStringLiteral("for running a lemonade stand for 5 weeks and ")));
     QCOMPARE(achieved.contains(QStringLiteral("making a profit of")), summer.totalProfit() > 0);
 
-    QTemporaryDir folder;
-    const QString pdf = folder.filePath(QStringLiteral("summer.pdf"));
-    QVERIFY(WritePdf(paper, pdf));
-
-    // The chart scales to any area and any profits, losses and nothing at all included.
+    // The chart copes with no weeks, flat weeks and sums far beyond any summer.
     QImage image(300, 200, QImage::Format_ARGB32);
-    for (const QList<qint64> &profits :
-         {QList<qint64>{}, QList<qint64>{0, 0}, QList<qint64>{-500, 1200, 0},
-          QList<qint64>{std::numeric_limits<qint64>::max() / 4, -5}}) {
-        image.fill(Qt::white);
-        QPainter painter(&image);
+    QPainter painter(&image);
+    for (const QList<qint64> &profits : {QList<qint64>{}, QList<qint64>{0, 0},
+                                         QList<qint64>{std::numeric_limits<qint64>::max() / 4, -5}})
         ProfitChart::paint(painter, QRectF(0, 0, 300, 200), profits, QFont());
-    }
 }
 
 QTEST_MAIN(tst_lemonade_windows)
