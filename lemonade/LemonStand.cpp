@@ -117,7 +117,9 @@ void LemonStand::paintSky(QPainter &painter, const QRectF &area, double unit) co
     QLinearGradient sky(area.topLeft(), QPointF(area.left(), area.top() + 62 * unit));
     sky.setColorAt(0, SkyTop(m_weather));
     sky.setColorAt(1, SkyTop(m_weather).lighter(150));
-    painter.fillRect(QRectF(area.left(), area.top(), area.width(), 62 * unit), sky);
+    // Across the whole widget, so a wide or tall window shows one sky: above the square the
+    // gradient's first colour carries on.
+    painter.fillRect(QRectF(0, 0, width(), area.top() + 62 * unit), sky);
 
     painter.setPen(Qt::NoPen);
     if (m_weather == Weather::HotSunny || m_weather == Weather::Sunny) {

@@ -474,7 +474,9 @@ void frmLemon::showPlan()
         lblTip->setText(tr("Tip: hot days bring more customers. Buy enough for them, but lemons "
                            "left over at the end of the week go bad."));
     } else {
-        lblTip->clear();
+        // Last week's main lesson stays in sight while the next week is planned.
+        lblTip->setText(
+            tr("Remember last week: %1").arg(m_summer.reports().last().reasons().first()));
     }
     lblTip->setVisible(!lblTip->text().isEmpty());
     picStand->setWeather(m_summer.forecast(), m_summer.forecastTemperature());
