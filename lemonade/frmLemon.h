@@ -6,7 +6,6 @@
 
 class LemonStand;
 class ProfitChart;
-class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;

@@ -126,6 +126,8 @@ void tst_lemonade_windows::aShortSummerByKeyboard()
         QTRY_COMPARE(w->page(), frmLemon::Page::Selling);
         QVERIFY(w->timSell->isActive());
         const WeekReport r = s.reports().last();
+        QCOMPARE(w->picStand->weather(), r.weather);
+        QCOMPARE(w->picStand->walkers() > 0, r.came > 0);
         // While the customers come, the panel shows what the shopping left.
         QCOMPARE(w->lblMoney->text(), QStringLiteral("Money: ") + WeekReport::money(before - cost));
         if (week % 2) {
