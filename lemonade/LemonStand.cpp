@@ -155,8 +155,9 @@ void LemonStand::paintSky(QPainter &painter, const QRectF &area, double unit) co
         if (m_weather != Weather::Cloudy) {
             painter.setPen(QPen(QColor(0xBB, 0xDE, 0xFB), unit * 0.7, Qt::SolidLine, Qt::RoundCap));
             // Fixed streaks, so the rain does not flicker from one repaint to the next.
-            for (int i = 0; i < 40; ++i) {
-                const double x = area.left() + ((i * 37) % 100) * unit;
+            const int streaks = qMax(40, int(40 * width() / area.width()));
+            for (int i = 0; i < streaks; ++i) {
+                const double x = double((i * 37) % streaks) * width() / streaks;
                 const double y = area.top() + (28 + (i * 53) % 50) * unit;
                 painter.drawLine(QPointF(x, y), QPointF(x - 1.5 * unit, y + 4 * unit));
             }

@@ -174,10 +174,7 @@ void frmLemon::buildControls()
     scroller->setWidgetResizable(true);
     scroller->setFrameShape(QFrame::NoFrame);
     scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    // Wide enough for the report's figures, narrower on a small screen; the stand takes the
-    // rest of the window.
-    scroller->setMinimumWidth(330);
-    scroller->setMaximumWidth(480);
+    m_panel = scroller;
     scroller->setStyleSheet(QStringLiteral("QScrollArea { background: transparent; }"));
     panel->setAutoFillBackground(false);
     scroller->viewport()->setAutoFillBackground(false);
@@ -410,6 +407,14 @@ QWidget *frmLemon::buildEndPage()
     layout->addLayout(nameRow);
     layout->addWidget(cmdPrint);
     return page;
+}
+
+void frmLemon::resizeEvent(QResizeEvent *event)
+{
+    // The panel keeps a share of the width, enough for the report's figures, so the stand
+    // beside it never shrinks to a sliver on a small screen.
+    m_panel->setFixedWidth(qBound(330, width() * 9 / 20, 480));
+    ActivityWindow::resizeEvent(event);
 }
 
 frmLemon::Page frmLemon::page() const

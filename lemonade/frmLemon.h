@@ -82,6 +82,9 @@ public slots:
     // One frame of the customers walking; public so tests and the screenshot tool can drive it.
     void timSell_Timer();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void buildControls();
     QWidget *buildStartPage();
@@ -105,6 +108,7 @@ private:
     void updateControls();
 
     QLabel *m_profitCaption = nullptr;
+    QWidget *m_panel = nullptr;
 
     Summer m_summer;
     bool m_playing = false;
