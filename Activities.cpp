@@ -10,6 +10,7 @@
 #include "calendar/frmCal.h"
 #include "graphs/frmGraphs.h"
 #include "geography/frmWGeo.h"
+#include "lemonade/frmLemon.h"
 #include "mathrace/frmMRace.h"
 #include "mathtutor/frmHMath.h"
 #include "pizza/frmPizza.h"
@@ -33,7 +34,7 @@ QList<ActivityEntry> Activities()
         {2, QStringLiteral("Space Race"), opens<frmSRace>(), QStringLiteral("spacerace")},
         {3, QStringLiteral("Higher Math"), opens<frmHMath>(), QStringLiteral("mathtutor")},
         {4, QStringLiteral("\tMath Race"), opens<frmMRace>(), QStringLiteral("mathrace")},
-        {5, QStringLiteral("Lemonade Stand"), {}, QStringLiteral("lemonade")},
+        {5, QStringLiteral("Lemonade Stand"), opens<frmLemon>(), QStringLiteral("lemonade")},
         {6, QStringLiteral("Candy Drive"), {}, QStringLiteral("candy")},
         {7, QStringLiteral("Stop Thief!"), opens<frmThief>(), QStringLiteral("stopthief")},
         {8, QStringLiteral("Graphs && Charts"), opens<frmGraphs>(), QStringLiteral("graphs")},

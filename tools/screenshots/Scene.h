@@ -31,3 +31,4 @@ QList<Scene> typingScenes();
 QList<Scene> mathtutorScenes();
 QList<Scene> worldgeoScenes();
 QList<Scene> presidentsScenes();
+QList<Scene> lemonadeScenes();

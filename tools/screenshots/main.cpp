@@ -56,6 +56,7 @@ int main(int argc, char *argv[])
     scenes += mathtutorScenes();
     scenes += worldgeoScenes();
     scenes += presidentsScenes();
+    scenes += lemonadeScenes();
     int written = 0;
     for (const Scene &scene : std::as_const(scenes)) {
         if (!filter.isEmpty() && !scene.name.contains(filter))
