@@ -24,3 +24,4 @@ QList<Scene> pizzaScenes();
 QList<Scene> balloonScenes();
 QList<Scene> spaceraceScenes();
 QList<Scene> geographyScenes();
+QList<Scene> candyScenes();

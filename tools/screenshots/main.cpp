@@ -33,6 +33,7 @@ int main(int argc, char *argv[])
     scenes += pizzaScenes();
     scenes += spaceraceScenes();
     scenes += geographyScenes();
+    scenes += candyScenes();
     int written = 0;
     for (const Scene &scene : std::as_const(scenes)) {
         if (!filter.isEmpty() && !scene.name.contains(filter))
