@@ -9,6 +9,7 @@ namespace {
 
 constexpr double BoardWidth = 100;
 constexpr double BoardHeight = 72;
+constexpr double KeyHeight = 15; // the key below the streets, where there is room for it
 constexpr double RoadHalf = 2.6;
 constexpr double MainLeft = 47.5;
 constexpr double MainRight = 52.5;
@@ -56,22 +57,29 @@ QColor CandyMap::sideColour(Contest::Side side)
     return side == Contest::Side::Ours ? QColor(0x15, 0x65, 0xC0) : QColor(0xE6, 0x51, 0x00);
 }
 
+double CandyMap::totalHeight() const
+{
+    // The key is left out when the widget is too flat for it to fit without shrinking the map.
+    return height() * BoardWidth >= width() * (BoardHeight + KeyHeight) ? BoardHeight + KeyHeight
+                                                                        : BoardHeight;
+}
+
 double CandyMap::scale() const
 {
-    return qMin(width() / BoardWidth, height() / BoardHeight);
+    return qMin(width() / BoardWidth, height() / totalHeight());
 }
 
 QPointF CandyMap::toScreen(QPointF unit) const
 {
     const double s = scale();
-    const QPointF origin((width() - BoardWidth * s) / 2, (height() - BoardHeight * s) / 2);
+    const QPointF origin((width() - BoardWidth * s) / 2, (height() - totalHeight() * s) / 2);
     return origin + unit * s;
 }
 
 QPointF CandyMap::toUnits(QPointF screen) const
 {
     const double s = scale();
-    const QPointF origin((width() - BoardWidth * s) / 2, (height() - BoardHeight * s) / 2);
+    const QPointF origin((width() - BoardWidth * s) / 2, (height() - totalHeight() * s) / 2);
     return (screen - origin) / s;
 }
 
@@ -162,6 +170,8 @@ void CandyMap::paintEvent(QPaintEvent *)
     drawSchool(painter);
     drawHouses(painter);
     drawVisits(painter);
+    if (totalHeight() > BoardHeight)
+        drawKey(painter);
     if (m_planning) {
         for (int t = 0; t < m_contest->teams(); ++t)
             if (t != m_dragged)
@@ -226,14 +236,9 @@ void CandyMap::drawSchool(QPainter &painter) const
     painter.setFont(label);
     painter.setPen(QColor(0x3E, 0x27, 0x23));
     painter.drawText(building, Qt::AlignCenter, tr("School"));
-    // A flag on its pole.
-    const QPointF pole = building.topRight() + QPointF(-2 * s, 0);
-    painter.drawLine(pole, pole + QPointF(0, -3.5 * s));
-    painter.setBrush(QColor(0x19, 0x76, 0xD2));
-    painter.drawRect(QRectF(pole + QPointF(0, -3.5 * s), QSizeF(2.4 * s, 1.5 * s)));
 }
 
-void CandyMap::drawHouse(QPainter &painter, QRectF slot, Contest::Kind kind, bool above) const
+void CandyMap::drawHouse(QPainter &painter, QRectF slot, Contest::Kind kind) const
 {
     const double s = scale();
     painter.setPen(QPen(QColor(0x4E, 0x34, 0x2E), qMax(0.8, 0.18 * s)));
@@ -257,22 +262,14 @@ void CandyMap::drawHouse(QPainter &painter, QRectF slot, Contest::Kind kind, boo
         const double inset = big ? 0.04 : 0.2;
         const QRectF plot = slot.adjusted(slot.width() * inset, slot.height() * (big ? 0 : 0.15),
                                           -slot.width() * inset, 0);
-        // The roof points away from the road.
         const double roofDepth = plot.height() * 0.42;
-        const QRectF walls = above ? plot.adjusted(0, roofDepth, 0, 0)
-                                   : plot.adjusted(0, 0, 0, -roofDepth);
+        const QRectF walls = plot.adjusted(0, roofDepth, 0, 0);
         painter.setBrush(big ? QColor(0xFF, 0xAB, 0x91) : QColor(0xFF, 0xE0, 0x82));
         painter.drawRect(walls);
         QPainterPath roof;
-        if (above) {
-            roof.moveTo(walls.topLeft());
-            roof.lineTo(walls.center().x(), plot.top());
-            roof.lineTo(walls.topRight());
-        } else {
-            roof.moveTo(walls.bottomLeft());
-            roof.lineTo(walls.center().x(), plot.bottom());
-            roof.lineTo(walls.bottomRight());
-        }
+        roof.moveTo(walls.topLeft());
+        roof.lineTo(walls.center().x(), plot.top());
+        roof.lineTo(walls.topRight());
         roof.closeSubpath();
         painter.setBrush(big ? QColor(0x6D, 0x4C, 0x41) : QColor(0xD8, 0x43, 0x15));
         painter.drawPath(roof);
@@ -303,7 +300,7 @@ void CandyMap::drawHouses(QPainter &painter) const
             const QRectF units(x + 0.3, y, slotWidth - 0.6, BandDepth);
             const QRectF slot(toScreen(units.topLeft()), toScreen(units.bottomRight()));
             const Contest::House &house = contest.houses()[homes[i]];
-            drawHouse(painter, slot, house.kind, above);
+            drawHouse(painter, slot, house.kind);
             // A candy dot for a house that bought lately, fading as it gets hungry again.
             if (m_contest && house.lastBought > 0) {
                 const double tired = 1.0 - m_contest->houseRecovery(homes[i]);
@@ -312,8 +309,7 @@ void CandyMap::drawHouses(QPainter &painter) const
                     dot.setAlphaF(0.35 + 0.65 * tired);
                     painter.setPen(QPen(Qt::white, qMax(0.8, 0.2 * s)));
                     painter.setBrush(dot);
-                    const QPointF at(slot.center().x(),
-                                     above ? slot.bottom() - 1.0 * s : slot.top() + 1.0 * s);
+                    const QPointF at(slot.center().x(), slot.bottom() - 1.3 * s);
                     painter.drawEllipse(at, 1.1 * s, 1.1 * s);
                 }
             }
@@ -347,6 +343,52 @@ void CandyMap::drawVisits(QPainter &painter) const
             painter.drawRoundedRect(area, 0.6 * s, 0.6 * s);
             painter.setPen(Qt::white);
             painter.drawText(area, Qt::AlignCenter, QString::number(visit.day));
+        }
+    }
+}
+
+void CandyMap::drawKey(QPainter &painter) const
+{
+    const double s = scale();
+    QFont text = font();
+    text.setPixelSize(qMax(9, int(2.6 * s)));
+    painter.setFont(text);
+    const QFontMetricsF metrics(text);
+    const double rowHeight = 4.2;
+    double x = 2;
+    double y = BoardHeight + 1;
+    auto caption = [&](const QString &words) {
+        painter.setPen(QColor(0x26, 0x32, 0x38));
+        const QPointF at = toScreen({x, y});
+        painter.drawText(QRectF(at, QSizeF(60 * s, rowHeight * s)), Qt::AlignVCenter, words);
+        x += metrics.horizontalAdvance(words) / s + 3;
+    };
+    for (const Contest::Kind kind :
+         {Contest::Kind::Apartment, Contest::Kind::SmallHouse, Contest::Kind::BigHouse}) {
+        drawHouse(painter, QRectF(toScreen({x, y}), toScreen({x + 4, y + rowHeight})), kind);
+        x += 5;
+        caption(Contest::kindName(kind));
+    }
+    for (const bool chips : {false, true}) {
+        x = 2;
+        y += rowHeight + 0.4;
+        for (const Contest::Side side : {Contest::Side::Ours, Contest::Side::Theirs}) {
+            painter.setPen(QPen(Qt::white, qMax(0.8, 0.2 * s)));
+            painter.setBrush(sideColour(side));
+            if (chips) {
+                const QRectF chip(toScreen({x, y + 0.6}), toScreen({x + 3.4, y + rowHeight - 0.6}));
+                painter.drawRoundedRect(chip, 0.6 * s, 0.6 * s);
+                painter.setPen(Qt::white);
+                painter.drawText(chip, Qt::AlignCenter, QStringLiteral("3"));
+            } else {
+                painter.drawEllipse(toScreen({x + 1.7, y + rowHeight / 2}), 1.1 * s, 1.1 * s);
+            }
+            x += 4.5;
+            const bool ours = side == Contest::Side::Ours;
+            caption(chips ? (ours ? tr("our class sold on this street on day 3")
+                                  : tr("the other class did"))
+                          : (ours ? tr("bought from our class lately")
+                                  : tr("bought from the other class")));
         }
     }
 }

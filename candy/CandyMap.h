@@ -41,17 +41,20 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    // The map is laid out on a board of 100 x 72 units, scaled to fit the widget.
+    // The map is laid out on a board of 100 x 72 units, with a key below it when the widget is
+    // tall enough, scaled to fit the widget.
     QPointF toScreen(QPointF unit) const;
     QPointF toUnits(QPointF screen) const;
     double scale() const;
+    double totalHeight() const;
     static QRectF roadUnits(int street);
     static QRectF schoolUnits();
     QPointF markerUnits(int team) const;
     void drawRoads(QPainter &painter) const;
     void drawSchool(QPainter &painter) const;
     void drawHouses(QPainter &painter) const;
-    void drawHouse(QPainter &painter, QRectF slot, Contest::Kind kind, bool above) const;
+    void drawHouse(QPainter &painter, QRectF slot, Contest::Kind kind) const;
+    void drawKey(QPainter &painter) const;
     void drawVisits(QPainter &painter) const;
     void drawMarker(QPainter &painter, QPointF centre, int team) const;
 

@@ -122,7 +122,7 @@ void CandyPapers::drawCertificate(QPainter &painter, const QRectF &area, const C
 
     QFont heading(QStringLiteral("Comic Sans MS"));
     heading.setBold(true);
-    heading.setPixelSize(qMax(6, int(8 * unit)));
+    heading.setPixelSize(qMax(6, int(9 * unit)));
     painter.setFont(heading);
     painter.setPen(QColor(0xAD, 0x14, 0x57));
     painter.drawText(QRectF(area.left(), area.top() + 7 * unit, area.width(), 14 * unit),
@@ -130,7 +130,7 @@ void CandyPapers::drawCertificate(QPainter &painter, const QRectF &area, const C
                      won ? Tr("Candy Drive Champions") : Tr("Candy Drive Certificate"));
 
     QFont body(QStringLiteral("Comic Sans MS"));
-    body.setPixelSize(qMax(5, int(4.6 * unit)));
+    body.setPixelSize(qMax(5, int(5.4 * unit)));
     painter.setFont(body);
     painter.setPen(QColor(0x1A, 0x23, 0x7E));
     const int ours = contest.totalBoxes(Contest::Side::Ours);

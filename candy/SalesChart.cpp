@@ -59,7 +59,7 @@ void SalesChart::paint(QPainter &painter, const QRectF &area,
     const int top = scaleTop(reports);
     const double labelWidth = metrics.horizontalAdvance(QString::number(top)) + line * 0.6;
     const QRectF plot(area.left() + labelWidth, area.top() + line * 1.6,
-                      area.width() - labelWidth - line * 0.4, area.height() - line * 3.0);
+                      area.width() - labelWidth - line * 0.4, area.height() - line * 3.6);
     // The scale: five steps with faint lines across.
     for (int i = 0; i <= 5; ++i) {
         const double y = plot.bottom() - plot.height() * i / 5.0;
