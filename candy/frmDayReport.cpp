@@ -119,7 +119,8 @@ frmDayReport::frmDayReport(const Contest &contest, int day, QWidget *parent)
     picChart->setAccessibleName(tr("Chart of the boxes sold each day"));
     picChart->setMinimumHeight(200);
 
-    auto *tables = new QHBoxLayout;
+    m_tables = new QBoxLayout(QBoxLayout::LeftToRight);
+    QBoxLayout *tables = m_tables;
     tables->setSpacing(12);
     tables->addWidget(tblTeams, 3, Qt::AlignTop);
     tables->addWidget(tblStreets, 2, Qt::AlignTop);
@@ -239,6 +240,20 @@ void frmDayReport::showDay(int day)
         cmdNext->setFocus();
     if (!cmdNext->isEnabled() && cmdNext->hasFocus())
         cmdOK->setFocus();
+}
+
+void frmDayReport::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    // On a narrow screen the two tables stand one above the other, each whole.
+    const auto direction = width() < tblTeams->sizeHint().width() + tblStreets->sizeHint().width() + 80
+                               ? QBoxLayout::TopToBottom
+                               : QBoxLayout::LeftToRight;
+    if (m_tables->direction() != direction) {
+        m_tables->setDirection(direction);
+        FitHeight(tblTeams);
+        FitHeight(tblStreets);
+    }
 }
 
 void frmDayReport::showEvent(QShowEvent *event)

@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+class QBoxLayout;
 class QLabel;
 class QPushButton;
 class QTableWidget;
@@ -34,8 +35,10 @@ public:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    QBoxLayout *m_tables;
     QList<Contest::DayReport> m_reports;
     QStringList m_streets;
     QString m_winner;
