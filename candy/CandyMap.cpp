@@ -13,7 +13,7 @@ constexpr double KeyHeight = 15; // the key below the streets, where there is ro
 constexpr double RoadHalf = 2.6;
 constexpr double MainLeft = 47.5;
 constexpr double MainRight = 52.5;
-constexpr double BandGap = 0.6;  // between the road and the houses
+constexpr double BandGap = 0.6;   // between the road and the houses
 constexpr double BandDepth = 5.6; // how deep a house's plot is
 constexpr double MarkerRadius = 2.3;
 
@@ -205,7 +205,8 @@ void CandyMap::drawRoads(QPainter &painter) const
         painter.setFont(name);
         painter.setPen(Qt::white);
         const QRectF label = road.adjusted(1.2 * s, 0, -1.2 * s, 0);
-        painter.drawText(label, Qt::AlignVCenter | (Rows[street].left ? Qt::AlignLeft : Qt::AlignRight),
+        painter.drawText(label,
+                         Qt::AlignVCenter | (Rows[street].left ? Qt::AlignLeft : Qt::AlignRight),
                          m_contest->streets()[street].name);
     }
     // The name of the road the school stands on, written down its length.

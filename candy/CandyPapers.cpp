@@ -18,8 +18,7 @@ QString Tr(const char *text)
 }
 
 // A line of the printed tables: the text left, the figures in columns of fixed width.
-QString Columns(const QString &first, const QStringList &rest, int firstWidth = 22,
-                int width = 16)
+QString Columns(const QString &first, const QStringList &rest, int firstWidth = 22, int width = 16)
 {
     QString line = first.leftJustified(firstWidth, u' ', true);
     for (const QString &cell : rest)
@@ -185,8 +184,9 @@ PrintDocument CandyPapers::document(const Contest &contest)
     paper.addLine(Columns(Tr("Boxes sold"), {ours, theirs}));
     for (const Contest::DayReport &r : contest.reports())
         paper.addLine(dayLine(r));
-    paper.addLine(Columns(Tr("Total boxes"), {QString::number(contest.totalBoxes(Contest::Side::Ours)),
-                                              QString::number(contest.totalBoxes(Contest::Side::Theirs))}));
+    paper.addLine(
+        Columns(Tr("Total boxes"), {QString::number(contest.totalBoxes(Contest::Side::Ours)),
+                                    QString::number(contest.totalBoxes(Contest::Side::Theirs))}));
     paper.addLine(Columns(Tr("Money raised"),
                           {money(Contest::money(contest.totalBoxes(Contest::Side::Ours))),
                            money(Contest::money(contest.totalBoxes(Contest::Side::Theirs)))}));
@@ -213,13 +213,14 @@ PrintDocument CandyPapers::document(const Contest &contest)
             mine += r.streetOurs.value(s);
             other += r.streetTheirs.value(s);
         }
-        paper.addLine(Columns(contest.streets()[s].name,
-                              {QString::number(mine), QString::number(other)}));
+        paper.addLine(
+            Columns(contest.streets()[s].name, {QString::number(mine), QString::number(other)}));
     }
     paper.addBlankLine();
     const QList<Contest::DayReport> reports = contest.reports();
     paper.addDrawing(330, [reports](QPainter &painter, const QRect &area) {
-        SalesChart::paint(painter, QRectF(area), reports, 0, QFont(QStringLiteral("Comic Sans MS")));
+        SalesChart::paint(painter, QRectF(area), reports, 0,
+                          QFont(QStringLiteral("Comic Sans MS")));
     });
     return paper;
 }

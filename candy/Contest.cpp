@@ -78,7 +78,9 @@ void Contest::buildNeighbourhood()
         street.liking = 0.4 + 1.2 * m_random.next();
         for (const char *c = plan.homes; *c; ++c) {
             House house;
-            house.kind = *c == 'A' ? Kind::Apartment : *c == 'B' ? Kind::BigHouse : Kind::SmallHouse;
+            house.kind = *c == 'A'   ? Kind::Apartment
+                         : *c == 'B' ? Kind::BigHouse
+                                     : Kind::SmallHouse;
             house.street = int(m_streets.size());
             street.houses.append(int(m_houses.size()));
             m_houses.append(house);
@@ -172,8 +174,8 @@ QList<int> Contest::planRival()
         double worth = 0;
         for (int index : m_streets[s].houses) {
             const House &h = m_houses[index];
-            worth += expectedBoxes(h.kind) *
-                     (h.lastBuyer == Side::Theirs ? houseRecovery(index) : 1.0);
+            worth +=
+                expectedBoxes(h.kind) * (h.lastBuyer == Side::Theirs ? houseRecovery(index) : 1.0);
         }
         guess[s] = worth * (0.6 + 0.8 * m_random.next());
     }
@@ -205,10 +207,10 @@ QList<int> Contest::planRival()
 
 int Contest::sellHouse(House &house, double liking)
 {
-    const double chance = qMin(0.95, ChanceToBuy(house.kind) * liking *
-                                          (house.lastBought == 0 ? 1.0
-                                                                 : recovery(day() - house.lastBought)) *
-                                          weatherFactor(house.kind, m_weather));
+    const double chance =
+        qMin(0.95, ChanceToBuy(house.kind) * liking *
+                       (house.lastBought == 0 ? 1.0 : recovery(day() - house.lastBought)) *
+                       weatherFactor(house.kind, m_weather));
     const double buys = m_random.next();
     const double howMany = m_random.next();
     if (buys >= chance)

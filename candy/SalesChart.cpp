@@ -88,15 +88,18 @@ void SalesChart::paint(QPainter &painter, const QRectF &area,
         for (int i = 0; i < 2; ++i) {
             const double height = top > 0 ? plot.height() * values[i] / top : 0;
             painter.setPen(Qt::NoPen);
-            painter.setBrush(CandyMap::sideColour(i == 0 ? Contest::Side::Ours : Contest::Side::Theirs));
-            painter.drawRect(QRectF(left + slot * 0.12 + bar * i, plot.bottom() - height, bar, height));
+            painter.setBrush(
+                CandyMap::sideColour(i == 0 ? Contest::Side::Ours : Contest::Side::Theirs));
+            painter.drawRect(
+                QRectF(left + slot * 0.12 + bar * i, plot.bottom() - height, bar, height));
         }
     }
     painter.setPen(QPen(QColor(0x37, 0x47, 0x4F), 1.5));
     painter.drawLine(plot.bottomLeft(), plot.bottomRight());
     painter.drawLine(plot.bottomLeft(), plot.topLeft());
     painter.drawText(QRectF(plot.left(), plot.bottom() + line * 1.1, plot.width(), line),
-                     Qt::AlignCenter, QCoreApplication::translate("SalesChart", "Boxes sold each day"));
+                     Qt::AlignCenter,
+                     QCoreApplication::translate("SalesChart", "Boxes sold each day"));
     painter.restore();
 }
 

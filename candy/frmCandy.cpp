@@ -114,7 +114,8 @@ void frmCandy::buildControls()
     auto *teamsGrid = new QGridLayout(fraTeams);
     teamsGrid->setVerticalSpacing(4);
     for (int t = 0; t < Contest::MaxTeams; ++t) {
-        auto *label = Named(new QLabel(tr("Team &%1").arg(t + 1), fraTeams), ArrayName("lblTeam", t));
+        auto *label =
+            Named(new QLabel(tr("Team &%1").arg(t + 1), fraTeams), ArrayName("lblTeam", t));
         label->setFont(panel->font());
         label->setAlignment(Qt::AlignCenter);
         label->setMinimumWidth(84);
@@ -142,8 +143,8 @@ void frmCandy::buildControls()
     auto *countRow = new QHBoxLayout(fraCount);
     auto *countGroup = new QButtonGroup(this);
     for (int i = 0; i < Contest::MaxTeams; ++i) {
-        auto *option = Named(new QRadioButton(QString::number(i + 1), fraCount),
-                             ArrayName("optTeams", i));
+        auto *option =
+            Named(new QRadioButton(QString::number(i + 1), fraCount), ArrayName("optTeams", i));
         option->setFont(panel->font());
         option->setAccessibleName(i == 0 ? tr("1 team") : tr("%1 teams").arg(i + 1));
         countGroup->addButton(option, i + 1);
@@ -222,10 +223,10 @@ void frmCandy::buildControls()
     layout->addWidget(scroller);
 
     QWidget *previous = cboStreet.first();
-    for (QWidget *next : QList<QWidget *>{cboStreet[1], cboStreet[2], cboStreet[3], cboStreet[4],
-                                          cmdSell, optTeams[0], optTeams[1], optTeams[2],
-                                          optTeams[3], optTeams[4], cmdReport, cmdPrint, cmdNew,
-                                          cmdHelp, cmdExit}) {
+    for (QWidget *next :
+         QList<QWidget *>{cboStreet[1], cboStreet[2], cboStreet[3], cboStreet[4], cmdSell,
+                          optTeams[0], optTeams[1], optTeams[2], optTeams[3], optTeams[4],
+                          cmdReport, cmdPrint, cmdNew, cmdHelp, cmdExit}) {
         setTabOrder(previous, next);
         previous = next;
     }
@@ -284,12 +285,12 @@ void frmCandy::cmdSell_Click()
     } else {
         showMorning();
     }
-    Announce(lblOurs, tr("Day %1: %2 sold %3, %4 sold %5.")
-                          .arg(report->day)
-                          .arg(Contest::sideName(Contest::Side::Ours),
-                               CandyPapers::boxes(report->boxesOurs),
-                               Contest::sideName(Contest::Side::Theirs),
-                               CandyPapers::boxes(report->boxesTheirs)));
+    Announce(lblOurs,
+             tr("Day %1: %2 sold %3, %4 sold %5.")
+                 .arg(report->day)
+                 .arg(Contest::sideName(Contest::Side::Ours), CandyPapers::boxes(report->boxesOurs),
+                      Contest::sideName(Contest::Side::Theirs),
+                      CandyPapers::boxes(report->boxesTheirs)));
     frmDayReport dayReport(*m_contest, report->day, this);
     RunModal(dayReport);
     if (m_running)
@@ -330,10 +331,9 @@ void frmCandy::cmdExit_Click()
         close();
         return;
     }
-    const auto answer = MsgBox(this, tr("Stop Contest"),
-                               tr("Stop this contest? The days sold so far will be lost."),
-                               QMessageBox::Question, QMessageBox::Yes | QMessageBox::No,
-                               QMessageBox::No);
+    const auto answer = MsgBox(
+        this, tr("Stop Contest"), tr("Stop this contest? The days sold so far will be lost."),
+        QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
     if (answer != QMessageBox::Yes)
         return;
     m_running = false;
@@ -365,7 +365,8 @@ void frmCandy::showMorning()
         lblWeather->setText(tr("Ten school days to sell the most candy!"));
     } else if (m_running) {
         lblDay->setText(tr("Day %1 of %2").arg(m_contest->day()).arg(Contest::Days));
-        lblWeather->setText(tr("Weather today: %1").arg(Contest::weatherName(m_contest->weather())));
+        lblWeather->setText(
+            tr("Weather today: %1").arg(Contest::weatherName(m_contest->weather())));
     } else {
         lblDay->setText(tr("The contest is over"));
         lblWeather->setText(CandyPapers::verdict(*m_contest));
@@ -395,7 +396,8 @@ void frmCandy::showMessage(const QString &text)
 
 void frmCandy::updateControls()
 {
-    const int teams = m_contest ? m_contest->teams() : Contest::clampTeams(TheSettings().candy.value);
+    const int teams =
+        m_contest ? m_contest->teams() : Contest::clampTeams(TheSettings().candy.value);
     for (int t = 0; t < cboStreet.size(); ++t) {
         const bool used = t < teams;
         lblTeam[t]->setVisible(used);
@@ -413,8 +415,9 @@ void frmCandy::updateControls()
     cmdNew->setEnabled(!m_running);
 
     if (!m_running) {
-        showMessage(m_contest ? tr("Press Print for your certificate, or New Contest to play again.")
-                              : tr("Choose the number of teams, then press New Contest."));
+        showMessage(m_contest
+                        ? tr("Press Print for your certificate, or New Contest to play again.")
+                        : tr("Choose the number of teams, then press New Contest."));
         return;
     }
     QStringList waiting;

@@ -11,8 +11,8 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -181,20 +181,20 @@ void frmDayReport::showDay(int day)
         return;
     m_day = qBound(1, day, int(m_reports.size()));
     const Contest::DayReport &r = m_reports[m_day - 1];
-    lblTitle->setText(tr("Day %1 of %2 - %3").arg(r.day).arg(Contest::Days).arg(
-        Contest::weatherName(r.weather)));
+    lblTitle->setText(
+        tr("Day %1 of %2 - %3").arg(r.day).arg(Contest::Days).arg(Contest::weatherName(r.weather)));
     // The winner is named on the last day's page only.
     lblWinner->setText(m_winner);
     lblWinner->setVisible(!m_winner.isEmpty() && m_day == m_reports.size());
 
     tblTeams->setRowCount(int(r.ours.size() + r.theirs.size()));
     int row = 0;
-    for (const auto &[side, teams] : {std::pair{Contest::Side::Ours, &r.ours},
-                                      std::pair{Contest::Side::Theirs, &r.theirs}}) {
+    for (const auto &[side, teams] :
+         {std::pair{Contest::Side::Ours, &r.ours}, std::pair{Contest::Side::Theirs, &r.theirs}}) {
         for (const Contest::TeamDay &t : *teams) {
-            const QColor colour =
-                side == Contest::Side::Ours ? CandyMap::teamColour(t.team).darker(120)
-                                            : CandyMap::sideColour(side);
+            const QColor colour = side == Contest::Side::Ours
+                                      ? CandyMap::teamColour(t.team).darker(120)
+                                      : CandyMap::sideColour(side);
             SetCell(tblTeams, row, 0,
                     Contest::sideName(side) + QStringLiteral(", ") +
                         Contest::teamName(side, t.team),
@@ -209,12 +209,13 @@ void frmDayReport::showDay(int day)
     tblStreets->setRowCount(int(m_streets.size()));
     for (int s = 0; s < m_streets.size(); ++s) {
         SetCell(tblStreets, s, 0, m_streets[s]);
-        const bool oursThere = std::any_of(r.ours.begin(), r.ours.end(),
-                                           [s](const auto &t) { return t.street == s; });
+        const bool oursThere =
+            std::any_of(r.ours.begin(), r.ours.end(), [s](const auto &t) { return t.street == s; });
         const bool theirsThere = std::any_of(r.theirs.begin(), r.theirs.end(),
                                              [s](const auto &t) { return t.street == s; });
         // A dash where a class sent nobody, so 0 boxes sold and no visit look different.
-        SetCell(tblStreets, s, 1, oursThere ? QString::number(r.streetOurs.value(s)) : QStringLiteral("-"));
+        SetCell(tblStreets, s, 1,
+                oursThere ? QString::number(r.streetOurs.value(s)) : QStringLiteral("-"));
         SetCell(tblStreets, s, 2,
                 theirsThere ? QString::number(r.streetTheirs.value(s)) : QStringLiteral("-"));
     }
@@ -223,14 +224,14 @@ void frmDayReport::showDay(int day)
     FitHeight(tblTeams);
     FitHeight(tblStreets);
 
-    lblToday->setText(tr("Today %1 sold %2, and %3 sold %4.")
-                          .arg(Contest::sideName(Contest::Side::Ours), CandyPapers::boxes(r.boxesOurs),
-                               Contest::sideName(Contest::Side::Theirs),
-                               CandyPapers::boxes(r.boxesTheirs)));
-    lblTotals->setText(tr("So far: %1 %2, %3 %4.")
-                           .arg(Contest::sideName(Contest::Side::Ours), CandyPapers::boxes(r.totalOurs),
-                                Contest::sideName(Contest::Side::Theirs),
-                                CandyPapers::boxes(r.totalTheirs)));
+    lblToday->setText(
+        tr("Today %1 sold %2, and %3 sold %4.")
+            .arg(Contest::sideName(Contest::Side::Ours), CandyPapers::boxes(r.boxesOurs),
+                 Contest::sideName(Contest::Side::Theirs), CandyPapers::boxes(r.boxesTheirs)));
+    lblTotals->setText(
+        tr("So far: %1 %2, %3 %4.")
+            .arg(Contest::sideName(Contest::Side::Ours), CandyPapers::boxes(r.totalOurs),
+                 Contest::sideName(Contest::Side::Theirs), CandyPapers::boxes(r.totalTheirs)));
     lblToday->setAccessibleName(lblToday->text());
     lblTotals->setAccessibleName(lblTotals->text());
     picChart->setReports(m_reports.mid(0, m_day), m_day);
@@ -246,9 +247,10 @@ void frmDayReport::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
     // On a narrow screen the two tables stand one above the other, each whole.
-    const auto direction = width() < tblTeams->sizeHint().width() + tblStreets->sizeHint().width() + 80
-                               ? QBoxLayout::TopToBottom
-                               : QBoxLayout::LeftToRight;
+    const auto direction =
+        width() < tblTeams->sizeHint().width() + tblStreets->sizeHint().width() + 80
+            ? QBoxLayout::TopToBottom
+            : QBoxLayout::LeftToRight;
     if (m_tables->direction() != direction) {
         m_tables->setDirection(direction);
         FitHeight(tblTeams);
@@ -261,6 +263,6 @@ void frmDayReport::showEvent(QShowEvent *event)
     QDialog::showEvent(event);
     CentreOnScreen(this);
     cmdOK->setFocus();
-    Announce(lblTotals, (lblWinner->isVisible() ? m_winner + u' ' : QString()) +
-                            lblToday->text() + u' ' + lblTotals->text());
+    Announce(lblTotals, (lblWinner->isVisible() ? m_winner + u' ' : QString()) + lblToday->text() +
+                            u' ' + lblTotals->text());
 }

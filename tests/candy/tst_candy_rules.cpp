@@ -35,8 +35,7 @@ public:
         for (int t = 0; t < contest.teams(); ++t) {
             int best = -1;
             for (int s = 0; s < contest.streets().size(); ++s)
-                if (!chosen.contains(s) &&
-                    (best < 0 || value(contest, s) > value(contest, best)))
+                if (!chosen.contains(s) && (best < 0 || value(contest, s) > value(contest, best)))
                     best = s;
             chosen.append(best);
         }

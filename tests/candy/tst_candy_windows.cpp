@@ -151,10 +151,12 @@ void tst_candy_windows::wholeContestByKeyboard()
         QCOMPARE(w->contest()->reports().size(), day);
         const Contest::DayReport &r = w->contest()->reports().last();
         const QMap<QString, QString> &page = shown.last();
-        QVERIFY(page[QStringLiteral("lblTitle")].startsWith(QStringLiteral("Day %1 of 10 - ").arg(day)));
+        QVERIFY(page[QStringLiteral("lblTitle")].startsWith(
+            QStringLiteral("Day %1 of 10 - ").arg(day)));
         QVERIFY(page[QStringLiteral("first")].startsWith(QStringLiteral("Day 1 of 10 - ")));
         QCOMPARE(page[QStringLiteral("teams")], QStringLiteral("4"));
-        QCOMPARE(page[QStringLiteral("previous")], day > 1 ? QStringLiteral("on") : QStringLiteral("off"));
+        QCOMPARE(page[QStringLiteral("previous")],
+                 day > 1 ? QStringLiteral("on") : QStringLiteral("off"));
         QVERIFY(page[QStringLiteral("lblTotals")].contains(
             QStringLiteral("%1 boxes ($%2)").arg(r.totalOurs).arg(r.totalOurs * 2)));
         QCOMPARE(page.contains(QStringLiteral("lblWinner")), day == Contest::Days);
@@ -168,10 +170,12 @@ void tst_candy_windows::wholeContestByKeyboard()
     QCOMPARE(env.dialogs.ranWindows.size(), Contest::Days);
     QCOMPARE(env.sound.played().count(QStringLiteral("ding.wav")), Contest::Days);
     const bool won = w->contest()->winner() == Contest::Winner::Ours;
-    QVERIFY(env.sound.played().contains(won ? QStringLiteral("tada.wav") : QStringLiteral("uhoh.wav")));
+    QVERIFY(
+        env.sound.played().contains(won ? QStringLiteral("tada.wav") : QStringLiteral("uhoh.wav")));
     QCOMPARE(shown.last()[QStringLiteral("lblWinner")], CandyPapers::verdict(*w->contest()));
     QCOMPARE(w->lblWeather->text(), CandyPapers::verdict(*w->contest()));
-    QVERIFY(w->lblOurs->text().endsWith(CandyPapers::boxes(w->contest()->totalBoxes(Contest::Side::Ours))));
+    QVERIFY(w->lblOurs->text().endsWith(
+        CandyPapers::boxes(w->contest()->totalBoxes(Contest::Side::Ours))));
 
     // The contest is over: the teams rest, the certificate can be printed.
     QCOMPARE(w->cmdExit->text(), QStringLiteral("E&xit"));
@@ -180,7 +184,8 @@ void tst_candy_windows::wholeContestByKeyboard()
     QVERIFY(w->optTeams[0]->isEnabled());
     QCOMPARE(QApplication::focusWidget(), w->cmdPrint);
     QTest::keyClick(w->cmdPrint, Qt::Key_Return);
-    QCOMPARE(env.dialogs.printed, QStringList{QStringLiteral("Candy Drive Certificate and Report")});
+    QCOMPARE(env.dialogs.printed,
+             QStringList{QStringLiteral("Candy Drive Certificate and Report")});
     QCOMPARE(env.dialogs.pdfFiles.size(), 1);
 
     // The printed report's totals are those of the days.
@@ -191,9 +196,8 @@ void tst_candy_windows::wholeContestByKeyboard()
     const int ours = w->contest()->totalBoxes(Contest::Side::Ours);
     const int theirs = w->contest()->totalBoxes(Contest::Side::Theirs);
     QVERIFY(lines.contains(QStringLiteral("Total boxes %1 %2").arg(ours).arg(theirs)));
-    QVERIFY(lines.contains(
-        QStringLiteral("Money raised %1 %2")
-            .arg(CandyPapers::money(ours * 2), CandyPapers::money(theirs * 2))));
+    QVERIFY(lines.contains(QStringLiteral("Money raised %1 %2")
+                               .arg(CandyPapers::money(ours * 2), CandyPapers::money(theirs * 2))));
     QVERIFY(lines.contains(CandyPapers::verdict(*w->contest())));
     QCOMPARE(CandyPapers::money(1234567), QStringLiteral("$1,234,567"));
     QCOMPARE(CandyPapers::boxes(1), QStringLiteral("1 box ($2)"));
@@ -219,8 +223,8 @@ void tst_candy_windows::markersDragOntoStreets()
     auto drag = [map](int team, QPointF to) {
         const QPoint from = map->markerCentre(team).toPoint();
         QTest::mousePress(map, Qt::LeftButton, {}, from);
-        QMouseEvent move(QEvent::MouseMove, to, map->mapToGlobal(to), Qt::NoButton,
-                         Qt::LeftButton, Qt::NoModifier);
+        QMouseEvent move(QEvent::MouseMove, to, map->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                         Qt::NoModifier);
         QApplication::sendEvent(map, &move);
         QTest::mouseRelease(map, Qt::LeftButton, {}, to.toPoint());
     };

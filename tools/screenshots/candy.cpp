@@ -104,7 +104,8 @@ QList<Scene> candyScenes()
         {QStringLiteral("candy-planning"), [] { return Planning(); }},
         {QStringLiteral("candy-report"), [] { return Report(4); }, QSize(900, 720)},
         {QStringLiteral("candy-end"), [] { return Started(3, Contest::Days); }},
-        {QStringLiteral("candy-final-report"), [] { return Report(Contest::Days); }, QSize(900, 720)},
+        {QStringLiteral("candy-final-report"), [] { return Report(Contest::Days); },
+         QSize(900, 720)},
         {QStringLiteral("candy-certificate"), [] { return new Certificate; }, QSize(850, 620)},
     };
 }
