@@ -42,6 +42,15 @@ void DrawStar(QPainter &painter, QPointF centre, double radius)
     painter.drawPath(star);
 }
 
+// The largest size up to `pixels` at which the text fits the width.
+QFont Fitted(QFont font, int pixels, const QString &text, double width)
+{
+    font.setPixelSize(qMax(4, pixels));
+    while (font.pixelSize() > 4 && QFontMetricsF(font).horizontalAdvance(text) > width)
+        font.setPixelSize(font.pixelSize() - 1);
+    return font;
+}
+
 } // namespace
 
 QString CandyPapers::money(qint64 dollars)
@@ -119,14 +128,14 @@ void CandyPapers::drawCertificate(QPainter &painter, const QRectF &area, const C
         painter.drawPolygon(right);
     }
 
+    const QString title = won ? Tr("Candy Drive Champions") : Tr("Candy Drive Certificate");
     QFont heading(QStringLiteral("Comic Sans MS"));
     heading.setBold(true);
-    heading.setPixelSize(qMax(6, int(9 * unit)));
-    painter.setFont(heading);
+    // Between the two stars.
+    painter.setFont(Fitted(heading, int(9 * unit), title, area.width() - 36 * unit));
     painter.setPen(QColor(0xAD, 0x14, 0x57));
     painter.drawText(QRectF(area.left(), area.top() + 7 * unit, area.width(), 14 * unit),
-                     Qt::AlignCenter,
-                     won ? Tr("Candy Drive Champions") : Tr("Candy Drive Certificate"));
+                     Qt::AlignCenter, title);
 
     QFont body(QStringLiteral("Comic Sans MS"));
     body.setPixelSize(qMax(5, int(5.4 * unit)));
@@ -156,24 +165,24 @@ void CandyPapers::drawCertificate(QPainter &painter, const QRectF &area, const C
                             area.width() - 28 * unit, area.height() - 46 * unit),
                      Qt::AlignCenter | Qt::TextWordWrap, text);
 
-    QFont score = body;
-    score.setBold(true);
-    painter.setFont(score);
+    const QString score = Tr("%1: %2 boxes    %3: %4 boxes")
+                              .arg(Contest::sideName(Contest::Side::Ours))
+                              .arg(ours)
+                              .arg(Contest::sideName(Contest::Side::Theirs))
+                              .arg(contest.totalBoxes(Contest::Side::Theirs));
+    QFont scoreFont = body;
+    scoreFont.setBold(true);
+    painter.setFont(Fitted(scoreFont, body.pixelSize(), score, area.width() - 16 * unit));
     painter.setPen(QColor(0x2E, 0x7D, 0x32));
     painter.drawText(QRectF(area.left(), area.bottom() - 26 * unit, area.width(), 8 * unit),
-                     Qt::AlignCenter,
-                     Tr("%1: %2 boxes    %3: %4 boxes")
-                         .arg(Contest::sideName(Contest::Side::Ours))
-                         .arg(ours)
-                         .arg(Contest::sideName(Contest::Side::Theirs))
-                         .arg(contest.totalBoxes(Contest::Side::Theirs)));
+                     Qt::AlignCenter, score);
     painter.restore();
 }
 
 PrintDocument CandyPapers::document(const Contest &contest)
 {
     PrintDocument paper(Tr("Candy Drive Certificate and Report"), Tr("Candy Drive Report"));
-    paper.addDrawing(560, [contest](QPainter &painter, const QRect &area) {
+    paper.addDrawing(480, [contest](QPainter &painter, const QRect &area) {
         drawCertificate(painter, QRectF(area), contest);
     });
     paper.addBlankLine();
