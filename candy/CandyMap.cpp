@@ -8,7 +8,7 @@
 namespace {
 
 constexpr double BoardWidth = 100;
-constexpr double BoardHeight = 72;
+constexpr double BoardHeight = 74;
 constexpr double KeyHeight = 15; // the key below the streets, where there is room for it
 constexpr double RoadHalf = 2.6;
 constexpr double MainLeft = 47.5;

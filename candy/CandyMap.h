@@ -41,7 +41,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    // The map is laid out on a board of 100 x 72 units, with a key below it when the widget is
+    // The map is laid out on a board of 100 x 74 units, with a key below it when the widget is
     // tall enough, scaled to fit the widget.
     QPointF toScreen(QPointF unit) const;
     QPointF toUnits(QPointF screen) const;
