@@ -57,6 +57,13 @@ QColor CandyMap::sideColour(Contest::Side side)
     return side == Contest::Side::Ours ? QColor(0x15, 0x65, 0xC0) : QColor(0xE6, 0x51, 0x00);
 }
 
+const Contest &CandyMap::shown() const
+{
+    // Before a contest the neighbourhood is shown as every contest begins.
+    static const Contest Preview(1, 0);
+    return m_contest ? *m_contest : Preview;
+}
+
 double CandyMap::totalHeight() const
 {
     // The key is left out when the widget is too flat for it to fit without shrinking the map.
@@ -200,14 +207,14 @@ void CandyMap::drawRoads(QPainter &painter) const
         painter.setPen(Qt::NoPen);
         painter.setBrush(asphalt);
         painter.drawRect(road);
-        if (!m_contest || street >= m_contest->streets().size())
+        if (street >= shown().streets().size())
             continue;
         painter.setFont(name);
         painter.setPen(Qt::white);
         const QRectF label = road.adjusted(1.2 * s, 0, -1.2 * s, 0);
         painter.drawText(label,
                          Qt::AlignVCenter | (Rows[street].left ? Qt::AlignLeft : Qt::AlignRight),
-                         m_contest->streets()[street].name);
+                         shown().streets()[street].name);
     }
     // The name of the road the school stands on, written down its length.
     painter.save();
@@ -281,9 +288,7 @@ void CandyMap::drawHouse(QPainter &painter, QRectF slot, Contest::Kind kind) con
 
 void CandyMap::drawHouses(QPainter &painter) const
 {
-    // Before a contest the streets are shown with the homes of the first contest's plan.
-    static const Contest Preview(1, 0);
-    const Contest &contest = m_contest ? *m_contest : Preview;
+    const Contest &contest = shown();
     const double s = scale();
     for (int street = 0; street < qMin(RowCount, int(contest.streets().size())); ++street) {
         const QList<int> &homes = contest.streets()[street].houses;

@@ -45,6 +45,7 @@ private:
     // tall enough, scaled to fit the widget.
     QPointF toScreen(QPointF unit) const;
     QPointF toUnits(QPointF screen) const;
+    const Contest &shown() const;
     double scale() const;
     double totalHeight() const;
     static QRectF roadUnits(int street);

@@ -4,6 +4,7 @@
 #include "CandyMap.h"
 #include "CandyPapers.h"
 #include "frmDayReport.h"
+#include "WeatherSign.h"
 
 #include "shell/core/DataPath.h"
 #include "shell/core/Settings.h"
@@ -100,6 +101,7 @@ void frmCandy::buildControls()
     lblWeather = MakeValue(QStringLiteral("lblWeather"), 1.1, "#37474F", panel);
     lblWeather->setAlignment(Qt::AlignCenter);
     lblWeather->setAccessibleName(tr("Weather"));
+    picWeather = Named(new WeatherSign(panel), QStringLiteral("picWeather"));
     lblOurs = MakeValue(QStringLiteral("lblOurs"), 1.0, "#1565C0", panel);
     lblOurs->setAccessibleName(Contest::sideName(Contest::Side::Ours));
     lblTheirs = MakeValue(QStringLiteral("lblTheirs"), 1.0, "#E65100", panel);
@@ -194,7 +196,10 @@ void frmCandy::buildControls()
     panelLayout->setContentsMargins(4, 0, 4, 0);
     panelLayout->setSpacing(6);
     panelLayout->addWidget(lblDay);
-    panelLayout->addWidget(lblWeather);
+    auto *weatherRow = new QHBoxLayout;
+    weatherRow->addWidget(picWeather);
+    weatherRow->addWidget(lblWeather, 1);
+    panelLayout->addLayout(weatherRow);
     panelLayout->addWidget(lblOurs);
     panelLayout->addWidget(lblTheirs);
     panelLayout->addWidget(fraTeams);
@@ -360,6 +365,10 @@ void frmCandy::showMorning()
     }
     m_filling = false;
 
+    picWeather->setWeather(m_running ? std::optional(m_contest->weather()) : std::nullopt);
+    picWeather->setVisible(m_running);
+    // Beside its picture the weather reads from the left; alone it stands in the middle.
+    lblWeather->setAlignment(m_running ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter);
     if (!m_contest) {
         lblDay->setText(tr("Candy Drive"));
         lblWeather->setText(tr("Ten school days to sell the most candy!"));

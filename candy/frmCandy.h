@@ -12,6 +12,7 @@ class QGroupBox;
 class QLabel;
 class QPushButton;
 class QRadioButton;
+class WeatherSign;
 
 // The candy drive: ten school days in which the pupil sends the class's teams to the streets
 // of the neighbourhood each morning, against another class played by the computer. Each day
@@ -28,6 +29,7 @@ public:
 
     CandyMap *picMap;
     QLabel *lblDay;
+    WeatherSign *picWeather;
     QLabel *lblWeather;
     QLabel *lblOurs;
     QLabel *lblTheirs;

@@ -3,6 +3,7 @@
 #include "candy/CandyPapers.h"
 #include "candy/frmCandy.h"
 #include "candy/frmDayReport.h"
+#include "candy/WeatherSign.h"
 #include "shell/core/Settings.h"
 #include "shell/Printing.h"
 #include "support/TestDoubles.h"
@@ -164,6 +165,9 @@ void tst_candy_windows::wholeContestByKeyboard()
             // A new morning: both teams back at school, the next day's number shown.
             QCOMPARE(w->cboStreet[0]->currentIndex(), 0);
             QCOMPARE(w->lblDay->text(), QStringLiteral("Day %1 of 10").arg(day + 1));
+            QCOMPARE(w->picWeather->weather(), std::optional(w->contest()->weather()));
+            QCOMPARE(w->picWeather->accessibleName(),
+                     Contest::weatherName(w->contest()->weather()));
             QCOMPARE(QApplication::focusWidget(), w->cboStreet[0]);
         }
     }
