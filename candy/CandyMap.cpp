@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CandyMap.h"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QToolTip>
 
 namespace {
 
@@ -412,6 +414,39 @@ void CandyMap::drawMarker(QPainter &painter, QPointF centre, int team) const
     painter.setPen(Qt::white);
     painter.drawText(QRectF(centre.x() - r, centre.y() - r, 2 * r, 2 * r), Qt::AlignCenter,
                      QString::number(team + 1));
+}
+
+QString CandyMap::streetText(int street) const
+{
+    const Contest &contest = shown();
+    if (street < 0 || street >= contest.streets().size())
+        return {};
+    int kinds[3] = {};
+    for (int index : contest.streets()[street].houses)
+        ++kinds[int(contest.houses()[index].kind)];
+    QStringList parts;
+    const QString one[] = {tr("1 apartment"), tr("1 small house"), tr("1 big house")};
+    const QString many[] = {tr("%1 apartments"), tr("%1 small houses"), tr("%1 big houses")};
+    for (int k = 0; k < 3; ++k)
+        if (kinds[k] > 0)
+            parts.append(kinds[k] == 1 ? one[k] : many[k].arg(kinds[k]));
+    return contest.streets()[street].name + QStringLiteral(": ") + parts.join(QStringLiteral(", "));
+}
+
+bool CandyMap::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        auto *help = static_cast<QHelpEvent *>(event);
+        const int team = markerAt(help->pos());
+        const QString text = team >= 0 ? Contest::teamName(Contest::Side::Ours, team)
+                                       : streetText(streetAt(help->pos()));
+        if (text.isEmpty())
+            QToolTip::hideText();
+        else
+            QToolTip::showText(help->globalPos(), text, this);
+        return true;
+    }
+    return QWidget::event(event);
 }
 
 void CandyMap::mousePressEvent(QMouseEvent *event)

@@ -26,6 +26,8 @@ public:
     QPointF markerCentre(int team) const;
     int streetAt(QPointF position) const;
     int markerAt(QPointF position) const;
+    // "Maple Street: 11 small houses, 3 big houses", for the tooltip of a street.
+    QString streetText(int street) const;
 
     QSize sizeHint() const override { return {660, 560}; }
     QSize minimumSizeHint() const override { return {300, 240}; }
@@ -35,6 +37,7 @@ signals:
     void teamDropped(int team, int street);
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;

@@ -249,6 +249,9 @@ void tst_candy_windows::markersDragOntoStreets()
     QCOMPARE(w->contest()->assignment(2), -1);
     QCOMPARE(w->cboStreet[2]->currentIndex(), 0);
     QVERIFY(!w->cmdSell->isEnabled());
+    QCOMPARE(map->streetText(0),
+             w->contest()->streets()[0].name + QStringLiteral(": 11 small houses, 3 big houses"));
+    QCOMPARE(map->streetText(-1), QString());
     // Every street can be found where it is drawn, at any size.
     for (QSize size : {QSize(300, 240), QSize(1400, 900)}) {
         map->resize(size);
