@@ -132,7 +132,7 @@ void CandyPapers::drawCertificate(QPainter &painter, const QRectF &area, const C
     QFont heading(QStringLiteral("Comic Sans MS"));
     heading.setBold(true);
     // Between the two stars.
-    painter.setFont(Fitted(heading, int(9 * unit), title, area.width() - 36 * unit));
+    painter.setFont(Fitted(heading, int(9 * unit), title, area.width() * 0.76 - 15 * unit));
     painter.setPen(QColor(0xAD, 0x14, 0x57));
     painter.drawText(QRectF(area.left(), area.top() + 7 * unit, area.width(), 14 * unit),
                      Qt::AlignCenter, title);
