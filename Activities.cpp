@@ -3,6 +3,7 @@
 #include "Activities.h"
 
 #include "balloon/frmBall.h"
+#include "candy/frmCandy.h"
 #include "geography/frmGeo.h"
 #include "cards/frmBlack.h"
 #include "cards/frmConc.h"
@@ -35,7 +36,7 @@ QList<ActivityEntry> Activities()
         {3, QStringLiteral("Higher Math"), opens<frmHMath>(), QStringLiteral("mathtutor")},
         {4, QStringLiteral("\tMath Race"), opens<frmMRace>(), QStringLiteral("mathrace")},
         {5, QStringLiteral("Lemonade Stand"), opens<frmLemon>(), QStringLiteral("lemonade")},
-        {6, QStringLiteral("Candy Drive"), {}, QStringLiteral("candy")},
+        {6, QStringLiteral("Candy Drive"), opens<frmCandy>(), QStringLiteral("candy")},
         {7, QStringLiteral("Stop Thief!"), opens<frmThief>(), QStringLiteral("stopthief")},
         {8, QStringLiteral("Graphs && Charts"), opens<frmGraphs>(), QStringLiteral("graphs")},
         {9, QStringLiteral("Calendar"), opens<frmCal>(), QStringLiteral("calendar")},

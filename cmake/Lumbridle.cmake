@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Activities built into the program: one folder each, listed once here.
-set(LUMBRIDLE_ACTIVITIES mathrace stopthief pizza balloon spacerace geography cards calendar graphs typing mathtutor presidents lemonade)
+set(LUMBRIDLE_ACTIVITIES mathrace stopthief pizza balloon spacerace geography cards calendar graphs typing mathtutor presidents lemonade candy)
 set(LUMBRIDLE_ACTIVITY_LIBS ${LUMBRIDLE_ACTIVITIES})
 
 # lumbridle_add_activity(name RULES files... WINDOWS files...)

@@ -32,3 +32,4 @@ QList<Scene> mathtutorScenes();
 QList<Scene> worldgeoScenes();
 QList<Scene> presidentsScenes();
 QList<Scene> lemonadeScenes();
+QList<Scene> candyScenes();

@@ -57,6 +57,7 @@ int main(int argc, char *argv[])
     scenes += worldgeoScenes();
     scenes += presidentsScenes();
     scenes += lemonadeScenes();
+    scenes += candyScenes();
     int written = 0;
     for (const Scene &scene : std::as_const(scenes)) {
         if (!filter.isEmpty() && !scene.name.contains(filter))
