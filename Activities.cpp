@@ -3,14 +3,14 @@
 #include "Activities.h"
 
 #include "balloon/frmBall.h"
+#include "calendar/frmCal.h"
 #include "candy/frmCandy.h"
-#include "geography/frmGeo.h"
 #include "cards/frmBlack.h"
 #include "cards/frmConc.h"
 #include "cards/frmWar.h"
-#include "calendar/frmCal.h"
-#include "graphs/frmGraphs.h"
+#include "geography/frmGeo.h"
 #include "geography/frmWGeo.h"
+#include "graphs/frmGraphs.h"
 #include "lemonade/frmLemon.h"
 #include "mathrace/frmMRace.h"
 #include "mathtutor/frmHMath.h"
@@ -41,8 +41,8 @@ QList<ActivityEntry> Activities()
         {8, QStringLiteral("Graphs && Charts"), opens<frmGraphs>(), QStringLiteral("graphs")},
         {9, QStringLiteral("Calendar"), opens<frmCal>(), QStringLiteral("calendar")},
         {10, QStringLiteral("US Geography"), opens<frmGeo>(), QStringLiteral("usgeography")},
-        {12, QStringLiteral("Keyboarding"), opens<frmType>(), QStringLiteral("typing")},
         {11, QStringLiteral("US Presidents"), opens<frmPres>(), QStringLiteral("presidents")},
+        {12, QStringLiteral("Keyboarding"), opens<frmType>(), QStringLiteral("typing")},
         // The card games open the one last played: 1 War, 2 Concentration, 3 Blackjack.
         {13, QStringLiteral("\tDeckhand"),
          CardGameOpener(opens<frmWar>(), opens<frmConc>(), opens<frmBlack>()),
