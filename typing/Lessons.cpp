@@ -15,7 +15,7 @@ QString tr(const char *text)
     return QCoreApplication::translate("Lessons", text);
 }
 
-QList<Lesson> makeLessons()
+QList<TypingLesson> makeLessons()
 {
     // Home row first, then the top and bottom rows a pair of keys at a time, reaching out
     // from the home keys; numbers, capitals and marks come once every letter is known.
@@ -77,16 +77,16 @@ bool TypingSettings::rowOn(KeyRow row) const
 
 namespace Lessons {
 
-const QList<Lesson> &all()
+const QList<TypingLesson> &all()
 {
-    static const QList<Lesson> lessons = makeLessons();
+    static const QList<TypingLesson> lessons = makeLessons();
     return lessons;
 }
 
 QSet<QChar> taughtUpTo(int index)
 {
     QSet<QChar> taught{QChar(u' ')};
-    const QList<Lesson> &lessons = all();
+    const QList<TypingLesson> &lessons = all();
     for (int i = 0; i <= index && i < lessons.size(); ++i)
         for (QChar c : lessons[i].newKeys)
             taught.insert(c);

@@ -26,7 +26,7 @@ struct TypingSettings {
 };
 
 // One lesson: its title and the characters it teaches (capitals stand for Shift).
-struct Lesson {
+struct TypingLesson {
     QString title;
     QString newKeys;
     bool usesShift = false;
@@ -35,7 +35,7 @@ struct Lesson {
 // The lessons in the order they are taught, from the home row to Shift and punctuation, and
 // the characters a drill of each may use.
 namespace Lessons {
-const QList<Lesson> &all();
+const QList<TypingLesson> &all();
 // Every character taught in lessons 0 to `index`, whatever the settings.
 QSet<QChar> taughtUpTo(int index);
 // The characters a drill of lesson `index` may use: those taught so far on the rows switched

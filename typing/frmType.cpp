@@ -341,7 +341,7 @@ void frmType::showIntro()
     const int index = lessonIndex();
     if (index < 0 || index >= Lessons::all().size())
         return;
-    const Lesson &lesson = Lessons::all()[index];
+    const TypingLesson &lesson = Lessons::all()[index];
     lblTitle->setText(tr("Lesson %1: %2").arg(index + 1).arg(lesson.title));
     const QString keys = Lessons::newKeysAllowed(index, m_settings);
     picKeyboard->setNextKey(QChar());

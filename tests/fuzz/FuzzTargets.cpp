@@ -164,13 +164,17 @@ void graphFile(const QByteArray &input)
     const auto again = GraphFile::parse(GraphFile::format(*graph));
     if (!again || !(*again == *graph))
         FuzzFail("a graph written back read differently", input);
-    // Texts that read can all be typed on the keyboard map, and words are small letters only.
-    void typingTexts(const QByteArray &input) TypingTexts texts;
+}
+// Texts that read can all be typed on the keyboard map, and words are small letters only.
+void typingTexts(const QByteArray &input)
+{
+    TypingTexts texts;
     const bool ok = texts.parse(input);
     expectHonestError(ok, texts.error(), input);
     if (!ok)
-        if (texts.words().isEmpty() || texts.passages().isEmpty())
-            FuzzFail("typing texts without words or passages were read", input);
+        return;
+    if (texts.words().isEmpty() || texts.passages().isEmpty())
+        FuzzFail("typing texts without words or passages were read", input);
     for (const QString &word : texts.words())
         if (word.isEmpty() || word != word.toLower() || !TypingTexts::isTypeable(word))
             FuzzFail("a typing word that is not small letters was read", input);
@@ -180,11 +184,17 @@ void graphFile(const QByteArray &input)
     for (const Passage &passage : texts.passages())
         if (passage.text.isEmpty() || !TypingTexts::isTypeable(passage.text))
             FuzzFail("an untypeable passage was read", input);
-    // Any presidents' table that reads must give texts for every item, and a question of Who Is
-    // Missing? that keeps its promises, whatever its dates and names hold.
-    void presidentsData(const QByteArray &input) QuizTable table;
+}
+
+// Any presidents' table that reads must give texts for every item, and a question of Who Is
+// Missing? that keeps its promises, whatever its dates and names hold.
+void presidentsData(const QByteArray &input)
+{
+    QuizTable table;
     const bool ok = table.parse(input, Presidents::Layout());
     expectHonestError(ok, table.error(), input);
+    if (!ok)
+        return;
     // As many presidencies as the file holds, but never too few for a row and four choices.
     if (table.count() < Presidents::FewestRecords)
         FuzzFail("a presidents' table read with too few records", input);
@@ -218,12 +228,12 @@ const QList<FuzzTarget> &FuzzTargets()
         {"usgeo", {"usgeo.dat"}, [](const QByteArray &in) { quizTable(in, UsStates::Layout()); }},
         {"calendar", {"calendar.dat"}, calendarData},
         {"graph", {"line.tsx", "bar1.tsx", "bar2.tsx", "pie1.tsx", "pie2.tsx"}, graphFile},
+        {"spelling", {"grade1.srl", "grade3.srl", "grade5.srl", "tricky.srl"}, spellingList},
+        {"typing", {"typing.dat"}, typingTexts},
         {"wgeo",
          {"wgeo.dat"},
          [](const QByteArray &in) { quizTable(in, WorldCountries::Layout()); }},
         {"uspres", {"uspres.dat"}, presidentsData},
-        {"spelling", {"grade1.srl", "grade3.srl", "grade5.srl", "tricky.srl"}, spellingList},
-        {"typing", {"typing.dat"}, typingTexts},
     };
     return targets;
 }

@@ -140,11 +140,11 @@ void tst_typing_rules::everyKeyHasAFingerAndARow()
 
 void tst_typing_rules::lessonsTeachEveryKeyOnce()
 {
-    const QList<Lesson> &lessons = Lessons::all();
+    const QList<TypingLesson> &lessons = Lessons::all();
     QCOMPARE(lessons.first().newKeys, QStringLiteral("asdf"));
     QCOMPARE(lessons[1].newKeys, QStringLiteral("jkl;"));
     QSet<QChar> seen;
-    for (const Lesson &lesson : lessons) {
+    for (const TypingLesson &lesson : lessons) {
         QVERIFY(!lesson.newKeys.isEmpty());
         for (QChar c : lesson.newKeys) {
             QVERIFY2(!seen.contains(c), qPrintable(QString(c)));
