@@ -170,6 +170,7 @@ void frmCal::buildControls()
         spnMonth->fontMetrics().horizontalAdvance(QStringLiteral("September")) + 50);
     auto *monthLabel = new QLabel(tr("&Month:"), calendarColumn);
     monthLabel->setBuddy(spnMonth);
+    monthLabel->setTextFormat(Qt::PlainText);
     hsbYear = Named(new QScrollBar(Qt::Horizontal, calendarColumn), QStringLiteral("hsbYear"));
     hsbYear->setRange(MonthMath::FirstYear, MonthMath::LastYear);
     hsbYear->setPageStep(10);
@@ -179,6 +180,7 @@ void frmCal::buildControls()
     hsbYear->setAccessibleName(tr("Year"));
     auto *yearLabel = new QLabel(tr("&Year:"), calendarColumn);
     yearLabel->setBuddy(hsbYear);
+    yearLabel->setTextFormat(Qt::PlainText);
     lblYear = makeLabel(QStringLiteral("lblYear"), calendarColumn);
     lblYear->setWordWrap(false);
     ScaleFont(lblYear, 1.1, true);
@@ -318,6 +320,7 @@ QGroupBox *frmCal::buildQuizPanel(const QString &title, const QString &name, con
     auto *answerLabel = new QLabel(tr("&Answer:"), frame);
     answerLabel->setFont(font());
     answerLabel->setBuddy(panel.answer);
+    answerLabel->setTextFormat(Qt::PlainText);
     panel.start = makeButton(tr("&Start Quiz"), QStringLiteral("cmdStartQuiz"), "#1565C0", frame);
     panel.start->setAccessibleName(tr("Start Quiz"));
     panel.verdict = makeLabel(QStringLiteral("lblVerdict"), frame, "#2E7D32");

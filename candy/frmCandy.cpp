@@ -119,6 +119,7 @@ void frmCandy::buildControls()
         auto *label =
             Named(new QLabel(tr("Team &%1").arg(t + 1), fraTeams), ArrayName("lblTeam", t));
         label->setFont(panel->font());
+        label->setTextFormat(Qt::PlainText);
         label->setAlignment(Qt::AlignCenter);
         label->setMinimumWidth(84);
         label->setStyleSheet(QStringLiteral("QLabel { color: white; background: %1;"
@@ -212,6 +213,7 @@ void frmCandy::buildControls()
     // On a small or strongly magnified screen the controls scroll instead of being cut off.
     auto *scroller = new QScrollArea(this);
     scroller->setWidget(panel);
+    scroller->setAccessibleName(tr("Teams and the day"));
     scroller->setWidgetResizable(true);
     scroller->setFrameShape(QFrame::NoFrame);
     scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -136,6 +136,7 @@ frmDayReport::frmDayReport(const Contest &contest, int day, QWidget *parent)
 
     auto *scroller = new QScrollArea(this);
     scroller->setWidget(page);
+    scroller->setAccessibleName(tr("Day report"));
     scroller->setWidgetResizable(true);
     scroller->setFrameShape(QFrame::NoFrame);
     scroller->setStyleSheet(QStringLiteral("QScrollArea { background: transparent; }"));

@@ -54,6 +54,7 @@ QLabel *MakeLabel(const QString &name, QWidget *parent, double scale = 1.0, bool
 QLabel *MakeCaption(const QString &text, QWidget *buddy, QWidget *parent)
 {
     auto *label = new QLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
     label->setFont(parent->font());
     label->setBuddy(buddy);
     return label;
@@ -171,6 +172,7 @@ void frmLemon::buildControls()
     // On a small or strongly magnified screen the panel scrolls instead of being cut off.
     auto *scroller = new QScrollArea(this);
     scroller->setWidget(panel);
+    scroller->setAccessibleName(tr("This week"));
     scroller->setWidgetResizable(true);
     scroller->setFrameShape(QFrame::NoFrame);
     scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

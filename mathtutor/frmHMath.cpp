@@ -86,6 +86,8 @@ frmHMath::frmHMath(QWidget *parent)
     optDivide = MakeOption(tr("&Divide ÷"), QStringLiteral("optDivide"), options);
     auto *lblLow = new QLabel(tr("Facts &from"), options);
     auto *lblHigh = new QLabel(tr("t&o"), options);
+    for (QLabel *label : {lblLow, lblHigh})
+        label->setTextFormat(Qt::PlainText);
     spnLow = Named(new QSpinBox(options), QStringLiteral("spnLow"));
     spnHigh = Named(new QSpinBox(options), QStringLiteral("spnHigh"));
     for (QSpinBox *spin : {spnLow, spnHigh}) {
@@ -192,6 +194,7 @@ QWidget *frmHMath::makeReviewPage()
     auto *page = Named(new QFrame, QStringLiteral("fraReview"));
     page->setStyleSheet(PanelStyle("fraReview", "#FFFFFF", "#90CAF9"));
     auto *lblFamily = new QLabel(tr("Fami&ly:"), page);
+    lblFamily->setTextFormat(Qt::PlainText);
     spnFamily = Named(new QSpinBox(page), QStringLiteral("spnFamily"));
     spnFamily->setSuffix(tr("s"));
     spnFamily->setAccessibleName(tr("Family"));
@@ -352,6 +355,7 @@ QWidget *frmHMath::makeWorksheetPage()
     chkShowKey->setAccessibleName(tr("Show the key here"));
 
     auto *lblNumber = new QLabel(tr("Worksheet &number:"), page);
+    lblNumber->setTextFormat(Qt::PlainText);
     txtNumber = Named(new QLineEdit(page), QStringLiteral("txtNumber"));
     txtNumber->setAccessibleName(tr("Worksheet number"));
     txtNumber->setMaxLength(20);

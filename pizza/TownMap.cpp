@@ -90,6 +90,7 @@ TownMap::TownMap(const Evening &evening, QWidget *parent) : QWidget(parent), m_e
     imgCarLocation = new QLabel(this);
     imgCarLocation->setObjectName(QStringLiteral("imgCarLocation"));
     imgCarLocation->setAccessibleName(tr("Car"));
+    imgCarLocation->setTextFormat(Qt::PlainText);
     imgCarLocation->setScaledContents(true);
     imgCarLocation->setAttribute(Qt::WA_TransparentForMouseEvents);
     layOut();

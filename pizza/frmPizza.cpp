@@ -76,6 +76,7 @@ QLabel *MakeValue(const QString &name, double scale, QWidget *parent)
 QLabel *MakeCaption(const QString &text, QWidget *buddy, QWidget *parent)
 {
     auto *label = new QLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
     label->setFont(parent->font());
     if (buddy)
         label->setBuddy(buddy);
@@ -276,6 +277,7 @@ void frmPizza::buildControls()
     // On a small or strongly magnified screen the controls scroll instead of being cut off.
     auto *scroller = new QScrollArea(this);
     scroller->setWidget(panel);
+    scroller->setAccessibleName(tr("Orders, oven and car"));
     scroller->setWidgetResizable(true);
     scroller->setFrameShape(QFrame::NoFrame);
     scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

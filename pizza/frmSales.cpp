@@ -143,6 +143,7 @@ frmSales::frmSales(const SalesReport &report, QWidget *parent) : QDialog(parent)
     pageLayout->addStretch();
     auto *scroller = new QScrollArea(this);
     scroller->setWidget(page);
+    scroller->setAccessibleName(tr("Sales report"));
     scroller->setWidgetResizable(true);
     scroller->setFrameShape(QFrame::NoFrame);
     scroller->setStyleSheet(QStringLiteral("QScrollArea { background: transparent; }"));

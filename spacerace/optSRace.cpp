@@ -93,6 +93,7 @@ optSRace::optSRace(QWidget *parent) : QDialog(parent)
                                 .arg(SkyView::rocketColour(i + 1).darker(130).name()));
         auto *number = new QLabel(QString::number(i + 1), Frame[1]);
         number->setBuddy(name);
+        number->setTextFormat(Qt::PlainText);
         names->addWidget(number, i / 2, (i % 2) * 2);
         names->addWidget(name, i / 2, (i % 2) * 2 + 1);
         txtName.append(name);
@@ -130,6 +131,7 @@ optSRace::optSRace(QWidget *parent) : QDialog(parent)
     lblSpeed->setFont(BaseFont(0.9));
     auto *speedLabel = new QLabel(tr("Spee&d"), Frame[3]);
     speedLabel->setBuddy(spnSpeed);
+    speedLabel->setTextFormat(Qt::PlainText);
     auto *speedRow = new QHBoxLayout;
     speedRow->addWidget(speedLabel);
     speedRow->addWidget(spnSpeed);
@@ -229,6 +231,7 @@ void optSRace::buildListFrame(QGroupBox *frame)
         auto *number =
             Named(new QLabel(QString::number(i + 1), frame), ArrayName("lblIndex", i + 1));
         number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        number->setTextFormat(Qt::PlainText);
         number->setStyleSheet(QStringLiteral("color: #3949AB;"));
         auto *box = Named(new WordBox(frame), ArrayName("txtWord", i + 1));
         box->setAccessibleName(tr("Word %1").arg(i + 1));

@@ -181,6 +181,7 @@ frmType::frmType(QWidget *parent) : ActivityWindow(QStringLiteral("typing"), par
     picChart = Named(new SpeedChart(resultsPage), QStringLiteral("picChart"));
     picChart->setAccessibleName(tr("Chart of speed over the tests"));
     auto *nameLabel = new QLabel(tr("Your na&me for the certificate:"), resultsPage);
+    nameLabel->setTextFormat(Qt::PlainText);
     txtName = Named(new QLineEdit(resultsPage), QStringLiteral("txtName"));
     txtName->setAccessibleName(tr("Your name for the certificate"));
     txtName->setMaxLength(40);
