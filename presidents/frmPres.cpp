@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmPres.h"
 
+#include "QuizPortrait.h"
 #include "shell/core/DataPath.h"
 #include "shell/core/Settings.h"
 #include "shell/Services.h"
@@ -524,7 +525,11 @@ void frmPres::showItem(int item)
     const int n = m_quiz.currentRecord();
     switch (item) {
     case PortraitItem:
-        imgPres->load(DataFile(PortraitFile(n)));
+        if (m_quiz.mode() == NameMode)
+            imgPres->setImage(QuizPortrait(QImage(DataFile(PortraitFile(n)))),
+                              DataFile(PortraitFile(n)));
+        else
+            imgPres->load(DataFile(PortraitFile(n)));
         break;
     case NumberItem:
         lblNumber->setText(NumberText(n));

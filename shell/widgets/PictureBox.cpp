@@ -32,6 +32,15 @@ bool PictureBox::load(const QString &file)
     return true;
 }
 
+void PictureBox::setImage(const QImage &image, const QString &file)
+{
+    clear();
+    m_image = image;
+    m_file = file;
+    updateGeometry();
+    update();
+}
+
 void PictureBox::clear()
 {
     delete m_svg;

@@ -15,6 +15,8 @@ public:
     explicit PictureBox(QWidget *parent = nullptr);
     // Loads a picture; false (and an empty box) when the file is missing or unreadable.
     bool load(const QString &file);
+    // Shows a picture made in the program (a changed copy of a file's picture).
+    void setImage(const QImage &image, const QString &file = {});
     void clear();
     QString file() const { return m_file; }
     bool isEmpty() const;
