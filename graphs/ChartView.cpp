@@ -10,6 +10,14 @@ ChartView::ChartView(QWidget *parent) : QWidget(parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
+// Room for a few bars and their labels in the lettering of the day: on a small screen the
+// window's type shrinks, and the chart with it.
+QSize ChartView::minimumSizeHint() const
+{
+    const int line = fontMetrics().height();
+    return {line * 11, line * 8};
+}
+
 void ChartView::setGraph(const Graph &graph)
 {
     m_graph = graph;

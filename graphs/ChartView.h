@@ -12,7 +12,7 @@ public:
     explicit ChartView(QWidget *parent = nullptr);
     void setGraph(const Graph &graph);
     const Graph &graph() const { return m_graph; }
-    QSize minimumSizeHint() const override { return {220, 160}; }
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -29,7 +29,10 @@ void ColourSwatch::setMarked(bool marked)
 
 QSize ColourSwatch::sizeHint() const
 {
-    const int side = fontMetrics().height() + 14;
+    // In step with the lettering, so rows and paint box shrink with it on a small screen.
+    // The rings round it take 10 pixels, whatever the size.
+    const int line = fontMetrics().height();
+    const int side = qMax(line + 10, line * 3 / 2);
     return {side, side};
 }
 

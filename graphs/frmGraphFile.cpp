@@ -24,6 +24,7 @@ frmGraphFile::frmGraphFile(Mode mode, const QStringList &names, const QString &c
                                               : tr("&Type a name for your graph/chart:"),
                                  this),
                       QStringLiteral("lblPrompt"));
+    lblPrompt->setTextFormat(Qt::PlainText);
     cboFiles = Named(new QComboBox(this), QStringLiteral("cboFiles"));
     cboFiles->setAccessibleName(mode == Open ? tr("Graph/chart to open")
                                              : tr("Name of the graph/chart"));
@@ -33,6 +34,8 @@ frmGraphFile::frmGraphFile(Mode mode, const QStringList &names, const QString &c
     if (mode == Save) {
         cboFiles->setInsertPolicy(QComboBox::NoInsert);
         cboFiles->lineEdit()->setMaxLength(40);
+        // The box a pupil types in is what a screen reader lands on, so it carries the name.
+        cboFiles->lineEdit()->setAccessibleName(cboFiles->accessibleName());
         cboFiles->setEditText(current);
         cboFiles->lineEdit()->selectAll();
     } else if (const int at = int(names.indexOf(current)); at >= 0) {

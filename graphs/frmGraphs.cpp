@@ -76,9 +76,17 @@ void makeNumberBox(QLineEdit *box, bool whole)
     QObject::connect(box, &QLineEdit::inputRejected, box, [] { Beep(); });
 }
 
-QLabel *makeCaption(const QString &text, QWidget *buddy, QWidget *parent)
+// Every label here shows words, never markup, even where a typed name could end up in one.
+QLabel *makeNote(const QString &text, QWidget *parent)
 {
     auto *label = new QLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QLabel *makeCaption(const QString &text, QWidget *buddy, QWidget *parent)
+{
+    auto *label = makeNote(text, parent);
     label->setBuddy(buddy);
     label->setStyleSheet(QStringLiteral("color: #1A237E; font-weight: bold;"));
     return label;
@@ -134,9 +142,12 @@ void paintWhite(QScrollArea *scroll)
 
 // On a small screen (or at a large scaling) a step scrolls instead of pushing the window
 // past the screen's edge.
-QScrollArea *scrolling(QWidget *page)
+QScrollArea *scrolling(QWidget *page, const QString &name)
 {
     auto *scroll = new QScrollArea;
+    scroll->setAccessibleName(name);
+    // Tab goes straight to the boxes inside, and the page scrolls to show each one.
+    scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -193,6 +204,9 @@ void frmGraphs::buildControls()
         "QGroupBox { color: #4A148C; font-weight: bold; border: 3px solid #CE93D8;"
         " border-radius: 10px; margin-top: 14px; padding: 8px; background: #F3E5F5; }"
         "QGroupBox::title { subcontrol-origin: margin; left: 12px; padding: 0 4px; }"));
+    // Its own lettering, or a styled frame would keep its size when a small screen shrinks
+    // the window's.
+    fraLearn->setFont(font());
     txtLearn = Named(new QTextEdit(fraLearn), QStringLiteral("txtLearn"));
     txtLearn->setReadOnly(true);
     txtLearn->setTabChangesFocus(true);
@@ -221,6 +235,7 @@ void frmGraphs::buildControls()
         "QGroupBox { color: #0D47A1; font-weight: bold; border: 2px solid #90CAF9;"
         " border-radius: 10px; margin-top: 14px; padding: 6px; background: #FFFFFF; }"
         "QGroupBox::title { subcontrol-origin: margin; left: 12px; padding: 0 4px; }"));
+    fraFormat->setFont(font());
     auto *stepGroup = new QButtonGroup(this);
     auto *stepRow = new QHBoxLayout;
     const QStringList stepNames{tr("&1 Kind"), tr("&2 Titles"), tr("&3 Scale"), tr("&4 Data")};
@@ -229,9 +244,11 @@ void frmGraphs::buildControls()
         step->setCheckable(true);
         step->setAccessibleName(tr("Step %1").arg(QString(stepNames[i]).remove(u'&')));
         step->setMinimumHeight(38);
+        // A radius above half the height turns the pill square, and a small screen shrinks the
+        // step buttons to about 24 pixels.
         step->setStyleSheet(QStringLiteral(
             "QPushButton { background: #E3F2FD; color: #0D47A1; border: 2px solid #90CAF9;"
-            " border-radius: 16px; padding: 4px 10px; font-weight: bold; }"
+            " border-radius: 11px; padding: 4px 10px; font-weight: bold; }"
             "QPushButton:checked { background: #1565C0; color: white; border-color: #0D47A1; }"
             "QPushButton:focus { border: 4px solid #FFD600; }"));
         stepGroup->addButton(step, i);
@@ -241,9 +258,9 @@ void frmGraphs::buildControls()
     connect(stepGroup, &QButtonGroup::idClicked, this, &frmGraphs::goToStep);
 
     pages = Named(new QStackedWidget(fraFormat), QStringLiteral("pages"));
-    pages->addWidget(scrolling(buildKindPage()));
-    pages->addWidget(scrolling(buildTitlesPage()));
-    pages->addWidget(scrolling(buildScalePage()));
+    pages->addWidget(scrolling(buildKindPage(), cmdStep[Lesson::KindPage]->accessibleName()));
+    pages->addWidget(scrolling(buildTitlesPage(), cmdStep[Lesson::TitlesPage]->accessibleName()));
+    pages->addWidget(scrolling(buildScalePage(), cmdStep[Lesson::ScalePage]->accessibleName()));
     pages->addWidget(buildDataPage()); // its rows scroll by themselves
     cmdFormatOK = makeButton(tr("N&ext >"), QStringLiteral("cmdFormatOK"), "#1565C0", fraFormat);
     auto *formatLayout = new QVBoxLayout(fraFormat);
@@ -304,7 +321,7 @@ QWidget *frmGraphs::buildKindPage()
 {
     auto *page = new QWidget;
     auto *layout = new QVBoxLayout(page);
-    auto *prompt = new QLabel(tr("What kind of graph do you want to make?"), page);
+    auto *prompt = makeNote(tr("What kind of graph do you want to make?"), page);
     prompt->setWordWrap(true);
     layout->addWidget(prompt);
     const QStringList captions{tr("&Line Graph"), tr("&Bar Chart"), tr("P&ie Chart")};
@@ -322,7 +339,7 @@ QWidget *frmGraphs::buildKindPage()
         option->setIcon(kindIcon(i));
         option->setIconSize(QSize(64, 48));
         group->addButton(option, i);
-        auto *hint = new QLabel(hints[i], page);
+        auto *hint = makeNote(hints[i], page);
         hint->setWordWrap(true);
         hint->setStyleSheet(QStringLiteral("color: #546E7A; margin-left: 104px;"));
         layout->addWidget(option);
@@ -375,7 +392,7 @@ QWidget *frmGraphs::buildScalePage()
     chkYGrid = Named(new QCheckBox(tr("&Grid Lines"), page), QStringLiteral("chkYGrid"));
     chkYGrid->setAccessibleName(tr("Grid Lines"));
     chkYGrid->setStyleSheet(QStringLiteral("QCheckBox::indicator { width: 22px; height: 22px; }"));
-    auto *intro = new QLabel(tr("The scale is the row of numbers up the side of the graph."), page);
+    auto *intro = makeNote(tr("The scale is the row of numbers up the side of the graph."), page);
     intro->setWordWrap(true);
     grid->addWidget(intro, 0, 0, 1, 3);
     grid->addWidget(makeCaption(tr("&Minimum (bottom):"), txtYMin, page), 1, 0);
@@ -390,9 +407,9 @@ QWidget *frmGraphs::buildScalePage()
     lblScaleStep->setTextFormat(Qt::PlainText);
     lblScaleStep->setStyleSheet(QStringLiteral("color: #2E7D32; font-weight: bold;"));
     grid->addWidget(lblScaleStep, 6, 0, 1, 3);
-    lblPieScale = Named(new QLabel(tr("A pie chart has no scale: its slices are parts of the "
-                                      "whole."),
-                                   page),
+    lblPieScale = Named(makeNote(tr("A pie chart has no scale: its slices are parts of the "
+                                    "whole."),
+                                 page),
                         QStringLiteral("lblPieScale"));
     lblPieScale->setWordWrap(true);
     lblPieScale->setStyleSheet(QStringLiteral("color: #6A1B9A; font-weight: bold;"));
@@ -418,6 +435,9 @@ QWidget *frmGraphs::buildDataPage()
     auto *outer = new QVBoxLayout(page);
     outer->setContentsMargins(0, 0, 0, 0);
     auto *scroll = Named(new QScrollArea(page), QStringLiteral("fraRows"));
+    fraRows = scroll;
+    scroll->setAccessibleName(tr("Data rows"));
+    scroll->setFocusPolicy(Qt::NoFocus); // the boxes take the focus, the list follows them
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     auto *rows = new QWidget(scroll);
@@ -427,14 +447,14 @@ QWidget *frmGraphs::buildDataPage()
     grid->setContentsMargins(2, 2, 8, 2);
     const QStringList headings{QString(), tr("Label"), tr("Value"), tr("Colour")};
     for (int c = 0; c < headings.size(); ++c) {
-        auto *heading = new QLabel(headings[c], rows);
+        auto *heading = makeNote(headings[c], rows);
         heading->setStyleSheet(QStringLiteral("color: #1A237E; font-weight: bold;"));
         grid->addWidget(heading, 0, c, c == 2 ? Qt::AlignRight : Qt::AlignLeft);
     }
     QFont rowType = font();
     rowType.setPointSizeF(13);
     for (int i = 0; i < Graph::MaxPoints; ++i) {
-        auto *number = new QLabel(QString::number(i + 1), rows);
+        auto *number = makeNote(QString::number(i + 1), rows);
         number->setStyleSheet(QStringLiteral("color: #78909C;"));
         auto *label = makeBox(ArrayName("txtXLabel", i), tr("Label %1").arg(i + 1), 30, rows);
         auto *value = makeBox(ArrayName("txtYValue", i), tr("Value %1").arg(i + 1), 9, rows);
@@ -467,8 +487,7 @@ QWidget *frmGraphs::buildDataPage()
     auto *paintLayout = new QGridLayout(paintBox);
     paintLayout->setContentsMargins(0, 0, 0, 0);
     paintLayout->setSpacing(2);
-    auto *paintCaption =
-        new QLabel(tr("Paint box: click a row's colour, then a new one."), paintBox);
+    auto *paintCaption = makeNote(tr("Paint box: click a row's colour, then a new one."), paintBox);
     paintCaption->setWordWrap(true);
     paintCaption->setStyleSheet(QStringLiteral("color: #546E7A;"));
     paintLayout->addWidget(paintCaption, 0, 0, 1, Graph::Colours / 2);
@@ -939,8 +958,11 @@ bool frmGraphs::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::FocusIn) {
         for (int i = 0; i < Graph::MaxPoints; ++i)
-            if (watched == txtXLabel[i] || watched == txtYValue[i] || watched == lblColor[i])
+            if (watched == txtXLabel[i] || watched == txtYValue[i] || watched == lblColor[i]) {
                 setColourRow(i);
+                // The arrow keys move the focus too, not only Tab: keep the row in sight.
+                fraRows->ensureWidgetVisible(static_cast<QWidget *>(watched));
+            }
         return ActivityWindow::eventFilter(watched, event);
     }
     if (event->type() != QEvent::KeyPress)

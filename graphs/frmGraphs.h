@@ -18,6 +18,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
+class QScrollArea;
 class QStackedWidget;
 class QTextEdit;
 
@@ -61,6 +62,7 @@ public:
     QList<ColourSwatch *> lblColorChoice;
     QCheckBox *chkPiePercent;
     QLabel *lblDataHint;
+    QScrollArea *fraRows;
     QPushButton *cmdFormatOK;
     QPushButton *cmdNewGraph;
     QPushButton *cmdOpenGraph;

@@ -353,11 +353,22 @@ void tst_frmgraphs::numberBoxesAndKeys()
     QCOMPARE(QApplication::focusWidget(), window.txtXLabel[3]);
     QTest::keyClick(window.txtXLabel[3], Qt::Key_Up);
     QCOMPARE(QApplication::focusWidget(), window.txtXLabel[2]);
+    // In a small window the rows scroll, and the arrows keep the focused row in sight.
+    window.resize(window.minimumSizeHint());
+    QCoreApplication::processEvents();
+    for (int i = 2; i < Graph::MaxPoints - 1; ++i)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    QCOMPARE(QApplication::focusWidget(), window.txtXLabel[Graph::MaxPoints - 1]);
+    QVERIFY(!window.txtXLabel[Graph::MaxPoints - 1]->visibleRegion().isEmpty());
+    QVERIFY(window.txtXLabel[0]->visibleRegion().isEmpty());
     // Enter on a kind or in a title box goes on to the next step.
     window.goToStep(0);
     window.optType[1]->setFocus();
     QTest::keyClick(window.optType[1], Qt::Key_Return);
     QCOMPARE(window.formatStep(), 1);
+    // The captions show plain text and still take the focus to their box by their mnemonic.
+    QTest::keyClick(&window, Qt::Key_Z, Qt::AltModifier);
+    QCOMPARE(QApplication::focusWidget(), window.txtXTitle);
     QTest::keyClick(window.txtTitle, Qt::Key_Return);
     QCOMPARE(window.formatStep(), 2);
     window.showGraph(Graph());
