@@ -110,3 +110,9 @@ test("country flags and portraits exist under the names the program builds", () 
   }
   assert.equal(fs.existsSync(path.join(data, "presi001.gif")), false);
 });
+
+test("the New York override carries the E PLURIBUS UNUM scroll", () => {
+  const svg = fs.readFileSync(new URL("../overrides/us-ny.svg", import.meta.url), "utf8");
+  assert.match(svg, />E PLURIBUS UNUM<\/text>/);
+  assert.match(svg, /id="path410"/, "the EXCELSIOR lettering of the package is kept");
+});

@@ -9,6 +9,7 @@ import { countryFlagFile, ordinal, portraitFile, stateFlagFile } from "../lib/na
 import { insideRings, pathData, roundRing, roundRings } from "../lib/paths.mjs";
 import { initials, portraitCards, readPresidencies, termYears } from "../lib/portraits.mjs";
 import { placeCountryPoints, placeStatePoints } from "../lib/points.mjs";
+import { newYorkFlag, shieldOutline } from "../lib/newyork.mjs";
 
 test("items of a line: quoted commas and doubled quotes stay inside one item", () => {
   const line = '"A, B","say ""hi""",12,-3.5,"x"';
@@ -178,4 +179,11 @@ test("initials take the capital of each word", () => {
   assert.equal(initials("George Washington"), "GW");
   assert.equal(initials("George H. W. Bush"), "GHWB");
   assert.equal(initials("Martin Van Buren"), "MVB");
+});
+
+test("New York: the shield's outer outline is the first outline of path434, and a changed drawing is refused", () => {
+  const svg = '<svg><metadata/><path id="path434" d="m1 2h3v4h-3m0.5 0.5h2"/></svg>';
+  assert.equal(shieldOutline(svg), "m1 2h3v4h-3z");
+  assert.throws(() => newYorkFlag(svg), /path20 not found/);
+  assert.throws(() => shieldOutline("<svg></svg>"), /path434 not found/);
 });
