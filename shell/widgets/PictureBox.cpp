@@ -3,6 +3,7 @@
 
 #include <QImageReader>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 
 PictureBox::PictureBox(QWidget *parent) : QWidget(parent)
@@ -94,6 +95,15 @@ void PictureBox::paintEvent(QPaintEvent *)
     const QSize pixels = (target.size() * ratio).toSize();
     if (pixels.isEmpty())
         return;
+    // Drawn maps are kept for the whole program, so a window opened again (or another window
+    // showing the same map at the same size) shows at once instead of drawing it anew.
+    const QString key = m_svg ? QStringLiteral("picture:%1:%2x%3")
+                                    .arg(m_file)
+                                    .arg(pixels.width())
+                                    .arg(pixels.height())
+                              : QString();
+    if (m_drawn.size() != pixels && !key.isEmpty() && QPixmapCache::find(key, &m_drawn))
+        m_drawn.setDevicePixelRatio(ratio);
     if (m_drawn.size() != pixels) {
         m_drawn = QPixmap(pixels);
         m_drawn.fill(Qt::transparent);
@@ -105,6 +115,8 @@ void PictureBox::paintEvent(QPaintEvent *)
         else
             drawing.drawImage(QRectF(QPointF(0, 0), QSizeF(pixels)), m_image);
         m_drawn.setDevicePixelRatio(ratio);
+        if (!key.isEmpty())
+            QPixmapCache::insert(key, m_drawn);
     }
     QPainter painter(this);
     painter.drawPixmap(target.topLeft(), m_drawn);
