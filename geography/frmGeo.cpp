@@ -284,16 +284,25 @@ void frmGeo::buildControls()
     ends->addWidget(cmdExit);
     side->addLayout(ends);
     sidePanel->setWidget(sideContents);
+    sidePanel->setAccessibleName(tr("Games and settings"));
     m_sidePanel = sidePanel;
+
+    // The game scrolls too where even its smallest type does not fit the height.
+    auto *playPanel = new QScrollArea(this);
+    playPanel->setFrameShape(QFrame::NoFrame);
+    playPanel->setWidgetResizable(true);
+    playPanel->viewport()->setAutoFillBackground(false);
+    playPanel->setWidget(fraChoice);
+    playPanel->setAccessibleName(tr("Game"));
 
     auto *layout = new QHBoxLayout(this);
     // The type shrinks with the window (fitType), so the window may be smaller than what its
     // contents ask for at the present type: down to a 1366 x 768 screen at 200 %.
     layout->setSizeConstraint(QLayout::SetNoConstraint);
-    setMinimumSize(600, 330);
+    setMinimumSize(480, 280);
     layout->setContentsMargins(10, 8, 10, 10);
     layout->setSpacing(10);
-    layout->addWidget(fraChoice, 4);
+    layout->addWidget(playPanel, 4);
     layout->addWidget(sidePanel, 1);
 
     // Buttons would take the arrow keys to move the focus; in review they visit the states.
