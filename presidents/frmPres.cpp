@@ -7,6 +7,7 @@
 #include "shell/widgets/PictureBox.h"
 #include "shell/WindowUtil.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -25,6 +26,15 @@
 using namespace Presidents;
 
 namespace {
+// The pages of pictures. Its wrapped captions must not make it ask for their preferred height
+// for its width: it takes the height the texts leave, and a scrolling game area would
+// otherwise scroll on every small screen.
+class PictureStack final : public QStackedWidget {
+public:
+    using QStackedWidget::QStackedWidget;
+    bool hasHeightForWidth() const override { return false; }
+};
+
 
 enum Page { PortraitPage, RowPage };
 
@@ -186,7 +196,11 @@ void frmPres::buildControls()
         lblWTerm.append(term);
     }
 
-    picArea = Named(new QStackedWidget(this), QStringLiteral("picArea"));
+    picArea = Named(new PictureStack(this), QStringLiteral("picArea"));
+    // The pictures take the height the question and its answers leave: asking for their own
+    // would push the answers out of sight on a small screen.
+    picArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+    picArea->setMinimumHeight(130);
     picArea->addWidget(portraitPage);
     picArea->addWidget(rowPage);
 
@@ -314,7 +328,13 @@ void frmPres::buildControls()
     playPanel->setWidgetResizable(true);
     playPanel->viewport()->setAutoFillBackground(false);
     playPanel->setWidget(fraChoice);
+    fraChoice->setAutoFillBackground(false); // the window's colour shows around the frame
     playPanel->setAccessibleName(tr("Game"));
+    // The answer given the focus for the next question is scrolled into sight.
+    connect(qApp, &QApplication::focusChanged, playPanel, [playPanel](QWidget *, QWidget *now) {
+        if (now && playPanel->widget()->isAncestorOf(now))
+            playPanel->ensureWidgetVisible(now);
+    });
 
     auto *layout = new QHBoxLayout(this);
     // The type shrinks with the window (fitType), down to a 1366 x 768 screen at 200 %.
