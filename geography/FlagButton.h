@@ -17,7 +17,7 @@ public:
     void setMark(Mark mark);
     Mark mark() const { return m_mark; }
     QSize sizeHint() const override { return {240, 160}; }
-    QSize minimumSizeHint() const override { return {90, 60}; }
+    QSize minimumSizeHint() const override { return {60, 40}; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;

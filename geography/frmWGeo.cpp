@@ -10,6 +10,7 @@
 #include "shell/widgets/PictureBox.h"
 #include "shell/WindowUtil.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -27,6 +28,15 @@
 #include <QVBoxLayout>
 
 namespace {
+// The pages of pictures. Its wrapped captions must not make it ask for their preferred height
+// for its width: it takes the height the texts leave, and a scrolling game area would
+// otherwise scroll on every small screen.
+class PictureStack final : public QStackedWidget {
+public:
+    using QStackedWidget::QStackedWidget;
+    bool hasHeightForWidth() const override { return false; }
+};
+
 
 enum Page { MapPage, FlagPage };
 enum Setting { AnswerType, CapitalsWay, FindWay, FlagsWay };
@@ -123,7 +133,11 @@ void frmWGeo::buildControls()
     };
 
     // The world map, which stays loaded, and the four flags of the flag quiz.
-    picArea = Named(new QStackedWidget(this), QStringLiteral("picArea"));
+    picArea = Named(new PictureStack(this), QStringLiteral("picArea"));
+    // The pictures take the height the texts leave: asking for their own would make the game
+    // scroll on a small screen.
+    picArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+    picArea->setMinimumHeight(80);
     picArea->setStyleSheet(QStringLiteral("#picArea { border: 3px solid transparent; }"));
     picMap = Named(new WorldMap(picArea), QStringLiteral("picMap"));
     picMap->setAccessibleName(tr("Map of the world"));
@@ -157,7 +171,7 @@ void frmWGeo::buildControls()
     lblProducts->setStyleSheet(QStringLiteral("color: #4E342E;"));
     imgFlag = Named(new PictureBox(this), QStringLiteral("imgFlag"));
     imgFlag->setAccessibleName(tr("Flag of the country"));
-    imgFlag->setMinimumSize(120, 80);
+    imgFlag->setMinimumSize(90, 60);
     // The flag takes the room beside the map that the texts leave, and never asks for more.
     imgFlag->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
 
@@ -291,16 +305,31 @@ void frmWGeo::buildControls()
     ends->addWidget(cmdExit);
     side->addLayout(ends);
     sidePanel->setWidget(sideContents);
+    sidePanel->setAccessibleName(tr("Games and settings"));
     m_sidePanel = sidePanel;
+
+    // The game scrolls too where even its smallest type does not fit the height.
+    auto *playPanel = new QScrollArea(this);
+    playPanel->setFrameShape(QFrame::NoFrame);
+    playPanel->setWidgetResizable(true);
+    playPanel->viewport()->setAutoFillBackground(false);
+    playPanel->setWidget(fraChoice);
+    fraChoice->setAutoFillBackground(false); // the window's colour shows around the frame
+    playPanel->setAccessibleName(tr("Game"));
+    // The answer given the focus for the next question is scrolled into sight.
+    connect(qApp, &QApplication::focusChanged, playPanel, [playPanel](QWidget *, QWidget *now) {
+        if (now && playPanel->widget()->isAncestorOf(now))
+            playPanel->ensureWidgetVisible(now);
+    });
 
     auto *layout = new QHBoxLayout(this);
     // The type shrinks with the window (fitType), so the window may be smaller than what its
     // contents ask for at the present type: down to a 1366 x 768 screen at 200 %.
     layout->setSizeConstraint(QLayout::SetNoConstraint);
-    setMinimumSize(600, 330);
+    setMinimumSize(480, 280);
     layout->setContentsMargins(10, 8, 10, 10);
     layout->setSpacing(10);
-    layout->addWidget(fraChoice, 4);
+    layout->addWidget(playPanel, 4);
     layout->addWidget(sidePanel, 1);
 
     // Buttons would take the arrow keys to move the focus; in review they visit the countries.

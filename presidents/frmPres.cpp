@@ -8,6 +8,7 @@
 #include "shell/widgets/PictureBox.h"
 #include "shell/WindowUtil.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -26,6 +27,15 @@
 using namespace Presidents;
 
 namespace {
+// The pages of pictures. Its wrapped captions must not make it ask for their preferred height
+// for its width: it takes the height the texts leave, and a scrolling game area would
+// otherwise scroll on every small screen.
+class PictureStack final : public QStackedWidget {
+public:
+    using QStackedWidget::QStackedWidget;
+    bool hasHeightForWidth() const override { return false; }
+};
+
 
 enum Page { PortraitPage, RowPage };
 
@@ -187,7 +197,11 @@ void frmPres::buildControls()
         lblWTerm.append(term);
     }
 
-    picArea = Named(new QStackedWidget(this), QStringLiteral("picArea"));
+    picArea = Named(new PictureStack(this), QStringLiteral("picArea"));
+    // The pictures take the height the question and its answers leave: asking for their own
+    // would push the answers out of sight on a small screen.
+    picArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+    picArea->setMinimumHeight(130);
     picArea->addWidget(portraitPage);
     picArea->addWidget(rowPage);
 
@@ -306,15 +320,30 @@ void frmPres::buildControls()
     ends->addWidget(cmdExit);
     side->addLayout(ends);
     sidePanel->setWidget(sideContents);
+    sidePanel->setAccessibleName(tr("Games and settings"));
     m_sidePanel = sidePanel;
+
+    // The game scrolls too where even its smallest type does not fit the height.
+    auto *playPanel = new QScrollArea(this);
+    playPanel->setFrameShape(QFrame::NoFrame);
+    playPanel->setWidgetResizable(true);
+    playPanel->viewport()->setAutoFillBackground(false);
+    playPanel->setWidget(fraChoice);
+    fraChoice->setAutoFillBackground(false); // the window's colour shows around the frame
+    playPanel->setAccessibleName(tr("Game"));
+    // The answer given the focus for the next question is scrolled into sight.
+    connect(qApp, &QApplication::focusChanged, playPanel, [playPanel](QWidget *, QWidget *now) {
+        if (now && playPanel->widget()->isAncestorOf(now))
+            playPanel->ensureWidgetVisible(now);
+    });
 
     auto *layout = new QHBoxLayout(this);
     // The type shrinks with the window (fitType), down to a 1366 x 768 screen at 200 %.
     layout->setSizeConstraint(QLayout::SetNoConstraint);
-    setMinimumSize(600, 330);
+    setMinimumSize(480, 280);
     layout->setContentsMargins(10, 8, 10, 10);
     layout->setSpacing(10);
-    layout->addWidget(fraChoice, 4);
+    layout->addWidget(playPanel, 4);
     layout->addWidget(sidePanel, 1);
 
     // Buttons would take the arrow keys to move the focus; in review they step through.

@@ -148,6 +148,8 @@ void tst_frmwgeo::oneQuestionOfEveryMode()
     QFETCH(QString, caption);
     TestEnvironment env;
     frmWGeo window;
+    // Every window draws from the clock as it opens; a fixed seed makes a failure repeatable.
+    Randomize(2024);
     showActive(window);
     choose(window, answerType, mode, direction);
     QCOMPARE(window.fraChoice->title(), caption);
@@ -155,8 +157,10 @@ void tst_frmwgeo::oneQuestionOfEveryMode()
     const int country = quiz.currentRecord();
     const QString name = window.countries().text(country, WorldCountries::Name);
     QCOMPARE(window.lblName->text(), mode == Capitals && direction == 0 ? name : QString());
-    // The pointer is the question only when naming the marked country.
-    QCOMPARE(window.picMap->pointer().has_value(), mode == FindIt);
+    // The pointer is the question when naming the marked country; in naming by clues the map
+    // is one of the clues and may come first.
+    const bool mapClue = mode == NameIt && quiz.clueOrder().value(1) == WorldCountries::MapItem;
+    QCOMPARE(window.picMap->pointer().has_value(), mode == FindIt || mapClue);
     QVERIFY(window.picMap->accessibleDescription().isEmpty());
     if (mode == Flags && direction == 1)
         QCOMPARE(fileName(window.imgFlag), WorldCountries::FlagFile(country));
