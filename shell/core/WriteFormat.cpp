@@ -80,8 +80,12 @@ bool WriteReader::parse(const QByteArray &content)
         QStringView row = rows[i];
         if (row.endsWith(u'\r'))
             row.chop(1);
+        // A carriage return inside a line breaks nothing: it reads as the blank the writer
+        // puts in its place, so a file read and written again reads the same.
+        QString line = row.toString();
+        line.replace(u'\r', u' ');
         QList<WriteItem> items;
-        if (!parseLine(row.toString(), int(i + 1), items))
+        if (!parseLine(line, int(i + 1), items))
             return false;
         m_lines.append(items);
     }
