@@ -2,6 +2,8 @@
 #include "frmPres.h"
 
 #include "QuizPortrait.h"
+
+#include "quiz/widgets/QuizPanels.h"
 #include "shell/core/DataPath.h"
 #include "shell/core/Settings.h"
 #include "shell/Services.h"
@@ -302,49 +304,8 @@ void frmPres::buildControls()
     cmdHelp = button(tr("&Help"), QStringLiteral("cmdHelp"), "#546E7A");
     cmdExit = button(exitCaption(false), QStringLiteral("cmdExit"), "#B71C1C");
 
-    // On a very small screen the column scrolls rather than squeezing its buttons together.
-    auto *sidePanel = new QScrollArea(this);
-    sidePanel->setFrameShape(QFrame::NoFrame);
-    sidePanel->setWidgetResizable(true);
-    sidePanel->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    sidePanel->viewport()->setAutoFillBackground(false);
-    auto *sideContents = new QWidget(sidePanel);
-    sideContents->setAutoFillBackground(false);
-    auto *side = new QVBoxLayout(sideContents);
-    side->setContentsMargins(0, 0, 0, 0);
-    side->addWidget(fraChoices);
-    side->addWidget(fraType);
-    side->addStretch(1);
-    auto *ends = new QHBoxLayout;
-    ends->addWidget(cmdHelp);
-    ends->addWidget(cmdExit);
-    side->addLayout(ends);
-    sidePanel->setWidget(sideContents);
-    sidePanel->setAccessibleName(tr("Games and settings"));
-    m_sidePanel = sidePanel;
-
-    // The game scrolls too where even its smallest type does not fit the height.
-    auto *playPanel = new QScrollArea(this);
-    playPanel->setFrameShape(QFrame::NoFrame);
-    playPanel->setWidgetResizable(true);
-    playPanel->viewport()->setAutoFillBackground(false);
-    playPanel->setWidget(fraChoice);
-    fraChoice->setAutoFillBackground(false); // the window's colour shows around the frame
-    playPanel->setAccessibleName(tr("Game"));
-    // The answer given the focus for the next question is scrolled into sight.
-    connect(qApp, &QApplication::focusChanged, playPanel, [playPanel](QWidget *, QWidget *now) {
-        if (now && playPanel->widget()->isAncestorOf(now))
-            playPanel->ensureWidgetVisible(now);
-    });
-
-    auto *layout = new QHBoxLayout(this);
-    // The type shrinks with the window (fitType), down to a 1366 x 768 screen at 200 %.
-    layout->setSizeConstraint(QLayout::SetNoConstraint);
-    setMinimumSize(480, 280);
-    layout->setContentsMargins(10, 8, 10, 10);
-    layout->setSpacing(10);
-    layout->addWidget(playPanel, 4);
-    layout->addWidget(sidePanel, 1);
+    m_sidePanel = QuizPanels::sidePanel(this, {fraChoices, fraType}, cmdHelp, cmdExit);
+    QuizPanels::layOut(this, QuizPanels::playPanel(this, fraChoice), m_sidePanel);
 
     // Buttons would take the arrow keys to move the focus; in review they step through.
     const auto buttons = findChildren<QPushButton *>();
