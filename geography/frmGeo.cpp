@@ -358,28 +358,10 @@ void frmGeo::resizeEvent(QResizeEvent *event)
 // The type follows the window, so everything fits a small screen and reads well on a big one.
 void frmGeo::fitType()
 {
-    const double factor = qBound(0.62, qMin(width() / 1024.0, height() / 720.0), 1.7);
-    // Built from the window's type each time: styled frames would hand their children another.
-    for (const TypeScale &scaled : std::as_const(m_typeScale)) {
-        QFont type = font();
-        type.setPointSizeF(13.0 * scaled.scale * factor);
-        type.setBold(scaled.bold);
-        scaled.widget->setFont(type);
-    }
-    // Buttons keep a big target, less so on a small screen.
-    const int buttonHeight = qRound(40 * qMin(factor, 1.0));
-    const auto buttons = findChildren<QPushButton *>();
-    for (QPushButton *b : buttons)
-        b->setMinimumHeight(buttonHeight);
-    const int dot = qRound(18 * factor);
-    const auto options = findChildren<QRadioButton *>();
-    for (QRadioButton *option : options)
-        option->setStyleSheet(QStringLiteral("QRadioButton::indicator { width: %1px;"
-                                             " height: %1px; }")
-                                  .arg(dot));
-    // The column is as wide as its widest button, never cut by a scroll bar.
-    m_sidePanel->setMinimumWidth(m_sidePanel->widget()->minimumSizeHint().width() +
-                                 m_sidePanel->verticalScrollBar()->sizeHint().width());
+    const double factor = QuizPanels::typeFactor(this);
+    QuizPanels::scaleType(this, m_typeScale, factor);
+    QuizPanels::sizeOptions(findChildren<QRadioButton *>(), factor);
+    QuizPanels::fitSidePanel(m_sidePanel);
 }
 
 void frmGeo::placeInsets()

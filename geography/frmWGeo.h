@@ -5,6 +5,8 @@
 
 #include "shell/ActivityWindow.h"
 
+#include "quiz/widgets/QuizPanels.h"
+
 #include <QList>
 
 class FlagButton;
@@ -119,11 +121,6 @@ private:
     QString m_tadaSound;
     QString m_uhOhSound;
     // Every text widget and its size against the window's base type, for fitType().
-    struct TypeScale {
-        QWidget *widget;
-        double scale;
-        bool bold;
-    };
-    QList<TypeScale> m_typeScale;
+    QList<QuizPanels::TypeScale> m_typeScale;
     QScrollArea *m_sidePanel = nullptr;
 };

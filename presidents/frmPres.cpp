@@ -351,33 +351,19 @@ void frmPres::resizeEvent(QResizeEvent *event)
 
 double frmPres::typeFactor() const
 {
-    return qBound(0.62, qMin(width() / 1024.0, height() / 720.0), 1.7);
+    return QuizPanels::typeFactor(this);
 }
 
 // The type follows the window, so everything fits a small screen and reads well on a big one.
 void frmPres::fitType()
 {
     const double factor = typeFactor();
-    for (const TypeScale &scaled : std::as_const(m_typeScale)) {
-        QFont type = font();
-        type.setPointSizeF(13.0 * scaled.scale * factor);
-        type.setBold(scaled.bold);
-        scaled.widget->setFont(type);
-    }
-    const int buttonHeight = qRound(40 * qMin(factor, 1.0));
-    const auto buttons = findChildren<QPushButton *>();
-    for (QPushButton *b : buttons)
-        b->setMinimumHeight(buttonHeight);
+    QuizPanels::scaleType(this, m_typeScale, factor);
     for (QLabel *name : std::as_const(lblWho))
         if (name->text() == QLatin1String("?"))
             styleName(name, true);
-    const int dot = qRound(18 * factor);
-    for (QRadioButton *option : std::as_const(optType))
-        option->setStyleSheet(QStringLiteral("QRadioButton::indicator { width: %1px;"
-                                             " height: %1px; }")
-                                  .arg(dot));
-    m_sidePanel->setMinimumWidth(m_sidePanel->widget()->minimumSizeHint().width() +
-                                 m_sidePanel->verticalScrollBar()->sizeHint().width());
+    QuizPanels::sizeOptions(optType, factor);
+    QuizPanels::fitSidePanel(m_sidePanel);
 }
 
 bool frmPres::eventFilter(QObject *watched, QEvent *event)

@@ -5,6 +5,8 @@
 
 #include "shell/ActivityWindow.h"
 
+#include "quiz/widgets/QuizPanels.h"
+
 #include <QList>
 
 class PictureBox;
@@ -106,11 +108,6 @@ private:
     QString m_dingSound;
     QString m_tadaSound;
     QString m_uhOhSound;
-    struct TypeScale {
-        QWidget *widget;
-        double scale;
-        bool bold;
-    };
-    QList<TypeScale> m_typeScale;
+    QList<QuizPanels::TypeScale> m_typeScale;
     QScrollArea *m_sidePanel = nullptr;
 };

@@ -3,7 +3,10 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace QuizPanels {
@@ -57,6 +60,40 @@ void layOut(QWidget *window, QScrollArea *play, QScrollArea *side)
     layout->setSpacing(10);
     layout->addWidget(play, 4);
     layout->addWidget(side, 1);
+}
+
+double typeFactor(const QWidget *window)
+{
+    return qBound(0.62, qMin(window->width() / 1024.0, window->height() / 720.0), 1.7);
+}
+
+void scaleType(QWidget *window, const QList<TypeScale> &scaled, double factor)
+{
+    for (const TypeScale &control : scaled) {
+        QFont type = window->font();
+        type.setPointSizeF(13.0 * control.scale * factor);
+        type.setBold(control.bold);
+        control.widget->setFont(type);
+    }
+    const int buttonHeight = qRound(40 * qMin(factor, 1.0));
+    const auto buttons = window->findChildren<QPushButton *>();
+    for (QPushButton *b : buttons)
+        b->setMinimumHeight(buttonHeight);
+}
+
+void sizeOptions(const QList<QRadioButton *> &options, double factor)
+{
+    const int dot = qRound(18 * factor);
+    for (QRadioButton *option : options)
+        option->setStyleSheet(QStringLiteral("QRadioButton::indicator { width: %1px;"
+                                             " height: %1px; }")
+                                  .arg(dot));
+}
+
+void fitSidePanel(QScrollArea *side)
+{
+    side->setMinimumWidth(side->widget()->minimumSizeHint().width() +
+                          side->verticalScrollBar()->sizeHint().width());
 }
 
 } // namespace QuizPanels

@@ -3,10 +3,18 @@
 
 #include <QList>
 
+class QRadioButton;
 class QScrollArea;
 class QWidget;
 
 namespace QuizPanels {
+
+// A control whose type follows the window: its size against the window's, and whether bold.
+struct TypeScale {
+    QWidget *widget;
+    double scale;
+    bool bold;
+};
 
 // The column of mode frames with Help and Exit at its foot. On a very small screen the column
 // scrolls rather than squeezing its buttons together; Tab still reaches every one.
@@ -20,5 +28,18 @@ QScrollArea *playPanel(QWidget *window, QWidget *game);
 // The game beside the column, four parts to one. The type shrinks with the window, so the
 // window may be smaller than its contents ask for: down to a 1366 x 768 screen at 200 %.
 void layOut(QWidget *window, QScrollArea *play, QScrollArea *side);
+
+// How much bigger or smaller than at 1024 x 720 the window's type is drawn.
+double typeFactor(const QWidget *window);
+
+// Sets the type of each scaled control from the window's own (styled frames would hand their
+// children another), and gives every button a big target, less so on a small screen.
+void scaleType(QWidget *window, const QList<TypeScale> &scaled, double factor);
+
+// Option dots that grow and shrink with the type.
+void sizeOptions(const QList<QRadioButton *> &options, double factor);
+
+// The column is as wide as its widest button, never cut by a scroll bar.
+void fitSidePanel(QScrollArea *side);
 
 } // namespace QuizPanels
