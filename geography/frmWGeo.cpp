@@ -29,16 +29,6 @@
 #include <QVBoxLayout>
 
 namespace {
-// The pages of pictures. Its wrapped captions must not make it ask for their preferred height
-// for its width: it takes the height the texts leave, and a scrolling game area would
-// otherwise scroll on every small screen.
-class PictureStack final : public QStackedWidget {
-public:
-    using QStackedWidget::QStackedWidget;
-    bool hasHeightForWidth() const override { return false; }
-};
-
-
 enum Page { MapPage, FlagPage };
 enum Setting { AnswerType, CapitalsWay, FindWay, FlagsWay };
 constexpr double NearClickPixels = 5;
@@ -63,12 +53,6 @@ QString choiceStyle(const char *background, const char *border)
 }
 
 // Text from the data file shown on a button: an ampersand there is a letter, not a mnemonic.
-QString asButtonText(const QString &text)
-{
-    QString escaped = text;
-    return escaped.replace(u'&', QStringLiteral("&&"));
-}
-
 } // namespace
 
 frmWGeo::frmWGeo(QWidget *parent) : ActivityWindow(QStringLiteral("worldgeography"), parent)
@@ -134,7 +118,7 @@ void frmWGeo::buildControls()
     };
 
     // The world map, which stays loaded, and the four flags of the flag quiz.
-    picArea = Named(new PictureStack(this), QStringLiteral("picArea"));
+    picArea = Named(new QuizPanels::PictureStack(this), QStringLiteral("picArea"));
     // The pictures take the height the texts leave: asking for their own would make the game
     // scroll on a small screen.
     picArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
@@ -639,7 +623,7 @@ void frmWGeo::setAnswerWidgets()
         choice->setVisible(choicesShown);
         choice->setStyleSheet(choiceStyle("#FFFFFF", "#90CAF9"));
         const QString text = choicesShown ? m_quiz.choiceText(i + 1) : QString();
-        choice->setText(asButtonText(text));
+        choice->setText(QuizPanels::asButtonText(text));
         choice->setAccessibleName(text);
     }
     for (int i = 0; i < imgFlagGame.size(); ++i) {

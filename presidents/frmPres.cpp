@@ -29,16 +29,6 @@
 using namespace Presidents;
 
 namespace {
-// The pages of pictures. Its wrapped captions must not make it ask for their preferred height
-// for its width: it takes the height the texts leave, and a scrolling game area would
-// otherwise scroll on every small screen.
-class PictureStack final : public QStackedWidget {
-public:
-    using QStackedWidget::QStackedWidget;
-    bool hasHeightForWidth() const override { return false; }
-};
-
-
 enum Page { PortraitPage, RowPage };
 
 QString frameStyle()
@@ -70,12 +60,6 @@ QString panelStyle(bool missing)
 }
 
 // Text from the data file shown on a button: an ampersand there is a letter, not a mnemonic.
-QString asButtonText(const QString &text)
-{
-    QString escaped = text;
-    return escaped.replace(u'&', QStringLiteral("&&"));
-}
-
 } // namespace
 
 frmPres::frmPres(QWidget *parent) : ActivityWindow(QStringLiteral("presidents"), parent)
@@ -199,7 +183,7 @@ void frmPres::buildControls()
         lblWTerm.append(term);
     }
 
-    picArea = Named(new PictureStack(this), QStringLiteral("picArea"));
+    picArea = Named(new QuizPanels::PictureStack(this), QStringLiteral("picArea"));
     // The pictures take the height the question and its answers leave: asking for their own
     // would push the answers out of sight on a small screen.
     picArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
@@ -598,7 +582,7 @@ void frmPres::setAnswerWidgets()
         choice->setVisible(choicesShown);
         choice->setStyleSheet(choiceStyle("#FFFFFF", "#9FA8DA"));
         const QString text = choicesShown ? m_quiz.choiceText(i + 1) : QString();
-        choice->setText(asButtonText(text));
+        choice->setText(QuizPanels::asButtonText(text));
         choice->setAccessibleName(text);
     }
     if (choicesShown)

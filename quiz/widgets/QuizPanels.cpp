@@ -11,6 +11,12 @@
 
 namespace QuizPanels {
 
+QString asButtonText(const QString &text)
+{
+    QString escaped = text;
+    return escaped.replace(u'&', QStringLiteral("&&"));
+}
+
 QScrollArea *sidePanel(QWidget *window, const QList<QWidget *> &frames, QWidget *help,
                        QWidget *exit)
 {

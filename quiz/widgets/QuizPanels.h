@@ -2,12 +2,26 @@
 #pragma once
 
 #include <QList>
+#include <QStackedWidget>
+#include <QString>
 
 class QRadioButton;
 class QScrollArea;
 class QWidget;
 
 namespace QuizPanels {
+
+// The pages of pictures. Its wrapped captions must not make it ask for their preferred height
+// for its width: it takes the height the texts leave, and a scrolling game area would
+// otherwise scroll on every small screen.
+class PictureStack final : public QStackedWidget {
+public:
+    using QStackedWidget::QStackedWidget;
+    bool hasHeightForWidth() const override { return false; }
+};
+
+// A name shown on a button as it is written: an ampersand is not taken for a shortcut.
+QString asButtonText(const QString &text);
 
 // A control whose type follows the window: its size against the window's, and whether bold.
 struct TypeScale {
