@@ -33,21 +33,12 @@ enum Setting { AnswerType, CapitalsWay, FindWay, FlagsWay };
 
 QString frameStyle()
 {
-    // No font in the style: a font set there would replace the window's in every child.
-    return QStringLiteral("QGroupBox { color: #0D47A1; border: 2px solid #90CAF9;"
-                          " border-radius: 10px; margin-top: 14px; padding: 8px 6px 6px 6px;"
-                          " background: #FFFFFF; }"
-                          "QGroupBox::title { subcontrol-origin: margin; left: 12px;"
-                          " padding: 0 4px; }");
+    return QuizPanels::frameStyle("#0D47A1", "#90CAF9");
 }
 
 QString choiceStyle(const char *background, const char *border)
 {
-    return QStringLiteral("QPushButton { background: %1; color: #102027; border: 3px solid %2;"
-                          " border-radius: 10px; padding: 4px 8px; }"
-                          "QPushButton:focus { border-color: #FFC107; }"
-                          "QPushButton:pressed { background: #BBDEFB; }")
-        .arg(QLatin1String(background), QLatin1String(border));
+    return QuizPanels::choiceStyle(background, border, "#BBDEFB");
 }
 
 // Text from the data file shown on a button: an ampersand there is a letter, not a mnemonic.

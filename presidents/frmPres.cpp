@@ -33,21 +33,12 @@ enum Page { PortraitPage, RowPage };
 
 QString frameStyle()
 {
-    // No font in the style: a font set there would replace the window's in every child.
-    return QStringLiteral("QGroupBox { color: #1A237E; border: 2px solid #9FA8DA;"
-                          " border-radius: 10px; margin-top: 14px; padding: 8px 6px 6px 6px;"
-                          " background: #FFFFFF; }"
-                          "QGroupBox::title { subcontrol-origin: margin; left: 12px;"
-                          " padding: 0 4px; }");
+    return QuizPanels::frameStyle("#1A237E", "#9FA8DA");
 }
 
 QString choiceStyle(const char *background, const char *border)
 {
-    return QStringLiteral("QPushButton { background: %1; color: #102027; border: 3px solid %2;"
-                          " border-radius: 10px; padding: 4px 8px; }"
-                          "QPushButton:focus { border-color: #FFC107; }"
-                          "QPushButton:pressed { background: #C5CAE9; }")
-        .arg(QLatin1String(background), QLatin1String(border));
+    return QuizPanels::choiceStyle(background, border, "#C5CAE9");
 }
 
 // The panel of the president to name is dashed and pale; the others are plain.

@@ -11,6 +11,26 @@
 
 namespace QuizPanels {
 
+QString frameStyle(const char *ink, const char *border)
+{
+    // No font in the style: a font set there would replace the window's in every child.
+    return QStringLiteral("QGroupBox { color: %1; border: 2px solid %2;"
+                          " border-radius: 10px; margin-top: 14px; padding: 8px 6px 6px 6px;"
+                          " background: #FFFFFF; }"
+                          "QGroupBox::title { subcontrol-origin: margin; left: 12px;"
+                          " padding: 0 4px; }")
+        .arg(QLatin1String(ink), QLatin1String(border));
+}
+
+QString choiceStyle(const char *background, const char *border, const char *pressed)
+{
+    return QStringLiteral("QPushButton { background: %1; color: #102027; border: 3px solid %2;"
+                          " border-radius: 10px; padding: 4px 8px; }"
+                          "QPushButton:focus { border-color: #FFC107; }"
+                          "QPushButton:pressed { background: %3; }")
+        .arg(QLatin1String(background), QLatin1String(border), QLatin1String(pressed));
+}
+
 QString asButtonText(const QString &text)
 {
     QString escaped = text;

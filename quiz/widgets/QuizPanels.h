@@ -20,6 +20,12 @@ public:
     bool hasHeightForWidth() const override { return false; }
 };
 
+// A white, rounded frame with its title in the ink colour.
+QString frameStyle(const char *ink, const char *border);
+
+// A rounded choice button; the focused one has a yellow ring.
+QString choiceStyle(const char *background, const char *border, const char *pressed);
+
 // A name shown on a button as it is written: an ampersand is not taken for a shortcut.
 QString asButtonText(const QString &text);
 
