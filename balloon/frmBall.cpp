@@ -24,17 +24,6 @@
 
 namespace {
 
-QPushButton *MakeButton(const QString &caption, const QString &name, const char *colour,
-                        QWidget *parent)
-{
-    auto *button = Named(new QPushButton(caption, parent), name);
-    button->setAutoDefault(true);
-    button->setMinimumSize(90, 30);
-    button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    StyleBrightButton(button, QColor(QLatin1String(colour)));
-    return button;
-}
-
 QLabel *MakeLabel(const QString &name, QWidget *parent)
 {
     auto *label = Named(new QLabel(parent), name);
@@ -150,11 +139,11 @@ frmBall::frmBall(QWidget *parent) : ActivityWindow(QStringLiteral("balloon"), pa
         optSource.append(option);
     }
 
-    cmdNew = MakeButton(tr("&New Word"), QStringLiteral("cmdNew"), "#1565C0", this);
-    cmdHint = MakeButton(tr("H&int"), QStringLiteral("cmdHint"), "#8E24AA", this);
+    cmdNew = MakeBrightButton(tr("&New Word"), QStringLiteral("cmdNew"), "#1565C0", this);
+    cmdHint = MakeBrightButton(tr("H&int"), QStringLiteral("cmdHint"), "#8E24AA", this);
     cmdHint->setToolTip(tr("A sentence that uses the word. It costs one balloon."));
-    cmdHelp = MakeButton(tr("&Help"), QStringLiteral("cmdHelp"), "#00838F", this);
-    cmdExit = MakeButton(exitCaption(false), QStringLiteral("cmdExit"), "#C62828", this);
+    cmdHelp = MakeBrightButton(tr("&Help"), QStringLiteral("cmdHelp"), "#00838F", this);
+    cmdExit = MakeBrightButton(exitCaption(false), QStringLiteral("cmdExit"), "#C62828", this);
     cmdNew->setAccessibleName(tr("New word"));
     cmdHint->setAccessibleName(tr("Hint, costs one balloon"));
     cmdHelp->setAccessibleName(tr("Help"));

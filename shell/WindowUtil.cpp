@@ -38,8 +38,8 @@ void shrinkContents(QWidget *window, double factor)
     // Never below what the widget needs for its (already smaller) lettering and style padding,
     // or its text would be clipped.
     auto scaled = [factor](QWidget *widget, const QSize &size) {
-        const QSize hint = qobject_cast<QAbstractButton *>(widget) ? widget->minimumSizeHint()
-                                                                   : QSize(0, 0);
+        const QSize hint =
+            qobject_cast<QAbstractButton *>(widget) ? widget->minimumSizeHint() : QSize(0, 0);
         return QSize(size.width() > 0 ? qMax(int(size.width() * factor), hint.width()) : 0,
                      size.height() > 0 ? qMax(int(size.height() * factor), hint.height()) : 0);
     };
@@ -100,9 +100,8 @@ void FitInto(QWidget *window, const QRect &area, const QMargins &frame)
             need = needed(window, true);
         if (need.width() <= room.width() && need.height() <= room.height())
             break;
-        const double factor =
-            qMax(0.5 / scale, 0.96 * qMin(double(room.width()) / need.width(),
-                                          double(room.height()) / need.height()));
+        const double factor = qMax(0.5 / scale, 0.96 * qMin(double(room.width()) / need.width(),
+                                                            double(room.height()) / need.height()));
         shrinkContents(window, qMin(factor, 0.97));
         scale *= qMin(factor, 0.97);
     }
@@ -112,11 +111,10 @@ void FitInto(QWidget *window, const QRect &area, const QMargins &frame)
     const QSize size = window->size().boundedTo(room).expandedTo(need.boundedTo(room));
     const QSize outer = size.grownBy(frame);
     // The inside of the window is placed, so the title bar lands inside the area too.
-    window->setGeometry(QRect(QPoint(area.left() + qMax(0, (area.width() - outer.width()) / 2) +
-                                         frame.left(),
-                                     area.top() + qMax(0, (area.height() - outer.height()) / 2) +
-                                         frame.top()),
-                              size));
+    window->setGeometry(
+        QRect(QPoint(area.left() + qMax(0, (area.width() - outer.width()) / 2) + frame.left(),
+                     area.top() + qMax(0, (area.height() - outer.height()) / 2) + frame.top()),
+              size));
 }
 
 double FitScale(const QWidget *window)
@@ -137,7 +135,8 @@ void PlaceOnScreen(QWidget *window)
 {
     if (Preferences::get().fullScreen) {
         // Full screen has no more room than the screen: the contents must fit it too.
-        if (QScreen *screen = window->screen() ? window->screen() : QGuiApplication::primaryScreen())
+        if (QScreen *screen =
+                window->screen() ? window->screen() : QGuiApplication::primaryScreen())
             FitInto(window, screen->geometry(), QMargins(0, 0, 0, 0));
         window->setWindowState(window->windowState() | Qt::WindowFullScreen);
     } else {
@@ -204,4 +203,15 @@ bool CanShowMessages()
     const QString platform = QGuiApplication::platformName();
     return QGuiApplication::primaryScreen() && platform != QLatin1String("offscreen") &&
            platform != QLatin1String("minimal");
+}
+
+QPushButton *MakeBrightButton(const QString &caption, const QString &name, const char *colour,
+                              QWidget *parent)
+{
+    auto *button = Named(new QPushButton(caption, parent), name);
+    button->setAutoDefault(true);
+    button->setMinimumSize(90, 30);
+    button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    StyleBrightButton(button, QColor(QLatin1String(colour)));
+    return button;
 }

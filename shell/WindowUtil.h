@@ -49,6 +49,10 @@ bool PressFocusedButton(QWidget *window, QKeyEvent *event);
 // The bright, rounded look of the program's big buttons: a strong colour, lettering that
 // stays readable on it, a thick yellow ring when focused and grey when disabled.
 void StyleBrightButton(QPushButton *button, const QColor &colour, int radius = 12);
+// A named bright button of an activity's button row ("#2E7D32" style colours): Enter presses it
+// when focused, and it keeps one row's height however the window grows.
+QPushButton *MakeBrightButton(const QString &caption, const QString &name, const char *colour,
+                              QWidget *parent);
 // The same look as style sheet text for the buttons `selector` picks ("#cmdChoice_3"), so a
 // window of many such buttons can style them all with one sheet, read once.
 QString BrightButtonStyle(const QString &selector, const QColor &colour, int radius = 12);

@@ -35,17 +35,6 @@ namespace {
 // Accuracy a lesson needs before the next one is offered: most keys right, a slip allowed.
 constexpr double PassAccuracy = 90.0;
 
-QPushButton *MakeButton(const QString &caption, const QString &name, const char *colour,
-                        QWidget *parent)
-{
-    auto *button = Named(new QPushButton(caption, parent), name);
-    button->setAutoDefault(true);
-    button->setMinimumSize(90, 30);
-    button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    StyleBrightButton(button, QColor(QLatin1String(colour)));
-    return button;
-}
-
 QLabel *MakeLabel(const QString &name, QWidget *parent)
 {
     auto *label = Named(new QLabel(parent), name);
@@ -96,7 +85,7 @@ frmType::frmType(QWidget *parent) : ActivityWindow(QStringLiteral("typing"), par
     lstLessons->setMinimumSize(200, 48);
     for (int i = 0; i < Lessons::all().size(); ++i)
         lstLessons->addItem(tr("%1. %2").arg(i + 1).arg(Lessons::all()[i].title));
-    cmdStart = MakeButton(tr("Start &Lesson"), QStringLiteral("cmdStart"), "#2E7D32", this);
+    cmdStart = MakeBrightButton(tr("Start &Lesson"), QStringLiteral("cmdStart"), "#2E7D32", this);
     cmdStart->setAccessibleName(tr("Start the lesson"));
 
     fraTest = Named(new QGroupBox(tr("Speed test"), this), QStringLiteral("fraTest"));
@@ -112,7 +101,7 @@ frmType::frmType(QWidget *parent) : ActivityWindow(QStringLiteral("typing"), par
         optMinutes.append(option);
     }
     optMinutes[0]->setChecked(true);
-    cmdTest = MakeButton(tr("Speed &Test"), QStringLiteral("cmdTest"), "#1565C0", fraTest);
+    cmdTest = MakeBrightButton(tr("Speed &Test"), QStringLiteral("cmdTest"), "#1565C0", fraTest);
     cmdTest->setAccessibleName(tr("Start a speed test"));
     testBox->addWidget(cmdTest, 1, 0, 1, 2);
 
@@ -186,8 +175,8 @@ frmType::frmType(QWidget *parent) : ActivityWindow(QStringLiteral("typing"), par
     txtName->setAccessibleName(tr("Your name for the certificate"));
     txtName->setMaxLength(40);
     nameLabel->setBuddy(txtName);
-    cmdPrint =
-        MakeButton(tr("&Print Certificate"), QStringLiteral("cmdPrint"), "#6A1B9A", resultsPage);
+    cmdPrint = MakeBrightButton(tr("&Print Certificate"), QStringLiteral("cmdPrint"), "#6A1B9A",
+                                resultsPage);
     cmdPrint->setAccessibleName(tr("Print a certificate"));
     auto *nameRow = new QHBoxLayout;
     nameRow->addWidget(nameLabel);
@@ -202,11 +191,11 @@ frmType::frmType(QWidget *parent) : ActivityWindow(QStringLiteral("typing"), par
     pnlPages->addWidget(typingPage);
     pnlPages->addWidget(resultsPage);
 
-    cmdResults = MakeButton(tr("&Results"), QStringLiteral("cmdResults"), "#EF6C00", this);
+    cmdResults = MakeBrightButton(tr("&Results"), QStringLiteral("cmdResults"), "#EF6C00", this);
     cmdResults->setAccessibleName(tr("Results and certificate"));
-    cmdHelp = MakeButton(tr("&Help"), QStringLiteral("cmdHelp"), "#00838F", this);
+    cmdHelp = MakeBrightButton(tr("&Help"), QStringLiteral("cmdHelp"), "#00838F", this);
     cmdHelp->setAccessibleName(tr("Help"));
-    cmdExit = MakeButton(exitCaption(false), QStringLiteral("cmdExit"), "#C62828", this);
+    cmdExit = MakeBrightButton(exitCaption(false), QStringLiteral("cmdExit"), "#C62828", this);
     cmdExit->setAccessibleName(tr("Exit or stop"));
 
     Timer1 = Named(new QTimer(this), QStringLiteral("Timer1"));
