@@ -16,7 +16,6 @@
 #include <QLoggingCategory>
 #include <QPointer>
 #include <QSocketNotifier>
-#include <QTimer>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -59,6 +58,12 @@ QString UsageText()
                           "  --version       show the version\n");
 }
 
+void LoadProgramIcon()
+{
+    if (QApplication::windowIcon().isNull())
+        QApplication::setWindowIcon(QIcon(DataFile(QStringLiteral("lumbridle.svg"))));
+}
+
 bool PrepareStart(const QString &dataDir)
 {
     InstallFontSubstitutes();
@@ -73,10 +78,6 @@ bool PrepareStart(const QString &dataDir)
         SetDataPath(dataDir);
         SetDataPathInstalled(false);
     }
-    // The icon's picture loads once the menu is on screen: nobody waits for it.
-    QTimer::singleShot(0, qApp, [] {
-        QApplication::setWindowIcon(QIcon(DataFile(QStringLiteral("lumbridle.svg"))));
-    });
     Preferences::get().load();
     TheSettings().spaceRaceListName = QStringLiteral("NONE");
     TheSettings().spaceRaceWordCount = 0;
@@ -88,9 +89,9 @@ bool PrepareStart(const QString &dataDir)
                      qPrintable(error.message()));
         std::fflush(stderr);
         MsgBox(nullptr, MessageRequest{QStringLiteral("Lumbridle"),
-                                           QString::fromLatin1(SettingsFile::BrokenMessage),
-                                           QMessageBox::Critical, QMessageBox::Ok,
-                                           QMessageBox::NoButton, error.message()});
+                                       QString::fromLatin1(SettingsFile::BrokenMessage),
+                                       QMessageBox::Critical, QMessageBox::Ok,
+                                       QMessageBox::NoButton, error.message()});
         return false;
     }
     return true;

@@ -22,6 +22,10 @@ QString UsageText();
 // is shown only where someone can close it.
 bool PrepareStart(const QString &dataDir);
 
+// Gives every window the program's icon. The menu calls it just after its first paint: the
+// icon's picture needs the picture plugin, and nobody should wait for it.
+void LoadProgramIcon();
+
 class QWidget;
 // A logout or `kill` (SIGTERM, SIGHUP, SIGINT) closes `menu` as its own close button does, so
 // the settings changed in this sitting are saved before the program ends.

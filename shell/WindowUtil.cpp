@@ -169,20 +169,32 @@ bool PressFocusedButton(QWidget *window, QKeyEvent *event)
     return true;
 }
 
-QString BrightButtonStyle(const QString &selector, const QColor &colour, int radius)
+BrightColours BrightColoursOf(const QColor &colour)
 {
     const bool darkText = colour.lightness() > 150;
-    return QStringLiteral("%6 { background: %1; color: %2; border: 3px solid %3;"
+    return {colour,
+            darkText ? QColor(0x21, 0x21, 0x21) : QColor(Qt::white),
+            colour.darker(140),
+            colour.lighter(115),
+            QColor(0xFF, 0xD6, 0x00),
+            QColor(0xCF, 0xD8, 0xDC),
+            QColor(0x78, 0x90, 0x9C),
+            QColor(0xB0, 0xBE, 0xC5)};
+}
+
+QString BrightButtonStyle(const QString &selector, const QColor &colour, int radius)
+{
+    const BrightColours c = BrightColoursOf(colour);
+    return QStringLiteral("%1 { background: %2; color: %3; border: 3px solid %4;"
                           " border-radius: %5px; padding: 6px 14px; }"
-                          "%6:hover { background: %4; }"
-                          "%6:pressed { background: %3; padding-top: 9px; }"
-                          "%6:focus { border: 5px solid #FFD600; }"
-                          "%6:disabled { background: #CFD8DC; color: #78909C;"
-                          " border-color: #B0BEC5; }")
-        .arg(colour.name(), darkText ? QStringLiteral("#212121") : QStringLiteral("white"),
-             colour.darker(140).name(), colour.lighter(115).name())
-        .arg(radius)
-        .arg(selector);
+                          "%1:hover { background: %6; }"
+                          "%1:pressed { background: %4; padding-top: 9px; }"
+                          "%1:focus { border: 5px solid %7; }"
+                          "%1:disabled { background: %8; color: %9;")
+               .arg(selector, c.face.name(), c.text.name(), c.border.name())
+               .arg(radius)
+               .arg(c.hover.name(), c.focus.name(), c.disabledFace.name(), c.disabledText.name()) +
+           QStringLiteral(" border-color: %1; }").arg(c.disabledBorder.name());
 }
 
 void StyleBrightButton(QPushButton *button, const QColor &colour, int radius)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QColor>
 #include <QMargins>
 #include <QRect>
 #include <QString>
@@ -46,6 +47,11 @@ void ScaleFont(QWidget *widget, double factor, bool bold = false);
 // Enter on a focused button presses it, as the space bar does: outside dialogs Qt's buttons
 // leave Enter to their window. Returns whether the key was used.
 bool PressFocusedButton(QWidget *window, QKeyEvent *event);
+// The colours of a bright button in each of its states, all from its one strong colour.
+struct BrightColours {
+    QColor face, text, border, hover, focus, disabledFace, disabledText, disabledBorder;
+};
+BrightColours BrightColoursOf(const QColor &colour);
 // The bright, rounded look of the program's big buttons: a strong colour, lettering that
 // stays readable on it, a thick yellow ring when focused and grey when disabled.
 void StyleBrightButton(QPushButton *button, const QColor &colour, int radius = 12);

@@ -3,10 +3,12 @@
 
 #include "Accessibility.h"
 #include "ActivityWindow.h"
-#include "shell/core/DataPath.h"
 #include "Preferences.h"
 #include "Services.h"
+#include "shell/core/DataPath.h"
 #include "shell/core/SettingsStore.h"
+#include "Startup.h"
+#include "widgets/BrightButton.h"
 #include "widgets/PictureBox.h"
 #include "WindowUtil.h"
 
@@ -17,6 +19,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLoggingCategory>
+#include <QPainter>
 #include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -26,6 +29,66 @@ Q_DECLARE_LOGGING_CATEGORY(lcShell)
 namespace {
 constexpr int Columns = 5;
 constexpr int ChoiceCount = 15;
+// Point sizes at the window's first size; the lettering grows and shrinks with the window.
+constexpr int TitleSize = 40;
+constexpr int ChoiceSize = 15;
+
+// The program's name in bright letters, one colour each, above a friendly invitation in the
+// lettering of the buttons. Painted directly: a rich-text label would lay out a whole document
+// and load one more font before the menu's first paint. Its text, for screen readers, is the
+// name and the invitation.
+class TitleBanner : public QLabel {
+public:
+    TitleBanner(const QString &invitation, QWidget *parent)
+        : QLabel(parent), m_invitation(invitation)
+    {
+        setTextFormat(Qt::PlainText);
+        setText(Name + u'\n' + invitation);
+    }
+
+    QSize sizeHint() const override
+    {
+        const QFontMetrics name(font());
+        const QFontMetrics invitation(invitationFont());
+        return {qMax(name.horizontalAdvance(Name), invitation.horizontalAdvance(m_invitation)),
+                name.height() + invitation.height()};
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        static constexpr const char *Colours[] = {"#E53935", "#FB8C00", "#F9A825",
+                                                  "#43A047", "#1E88E5", "#8E24AA"};
+        QPainter painter(this);
+        const QFontMetrics name(font());
+        const QFontMetrics invitation(invitationFont());
+        const int top = (height() - name.height() - invitation.height()) / 2;
+        // Each letter where the whole word would put it, kerning included.
+        const int left = (width() - name.horizontalAdvance(Name)) / 2;
+        for (qsizetype i = 0; i < Name.size(); ++i) {
+            painter.setPen(QColor(QLatin1String(Colours[i % 6])));
+            painter.drawText(left + name.horizontalAdvance(Name.left(i)), top + name.ascent(),
+                             Name.at(i));
+        }
+        painter.setFont(invitationFont());
+        painter.setPen(QColor(0x0D, 0x47, 0xA1));
+        painter.drawText(QRect(0, top + name.height(), width(), invitation.height()),
+                         Qt::AlignCenter, m_invitation);
+    }
+
+private:
+    // The name's lettering scaled to the buttons' size: the same font the buttons load.
+    QFont invitationFont() const
+    {
+        QFont small = font();
+        small.setPointSizeF(font().pointSizeF() * ChoiceSize / TitleSize);
+        return small;
+    }
+
+    static inline const QString Name = QStringLiteral("Lumbridle");
+    QString m_invitation;
+};
 
 // Bright colours, dark enough that white lettering stays easy to read.
 constexpr const char *ButtonColours[ChoiceCount] = {
@@ -51,37 +114,22 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
     Image1 = Named(new PictureBox(this), QStringLiteral("Image1"));
     Image1->setMinimumHeight(150);
 
-    // The name in bright letters, one colour each, above a friendly invitation.
-    const QString name = QStringLiteral("Lumbridle");
-    const char *letterColours[] = {"#E53935", "#FB8C00", "#F9A825", "#43A047", "#1E88E5",
-                                   "#8E24AA", "#E53935", "#FB8C00", "#43A047"};
-    QString letters;
-    for (qsizetype i = 0; i < name.size(); ++i)
-        letters += QStringLiteral("<span style=\"color:%1\">%2</span>")
-                       .arg(QLatin1String(letterColours[i % 9]), name.at(i));
-    auto *title = Named(new QLabel(this), QStringLiteral("lblTitle"));
-    title->setTextFormat(Qt::RichText);
-    title->setText(
-        QStringLiteral("<div align=\"center\"><span style=\"font-size:40pt; font-weight:bold\">"
-                       "%1</span><br><span style=\"font-size:20pt; color:#0D47A1\">%2</span>"
-                       "</div>")
-            .arg(letters, tr("Pick an activity!")));
+    m_title = Named(new TitleBanner(tr("Pick an activity!"), this), QStringLiteral("lblTitle"));
     QFont titleFont(QStringLiteral("Comic Sans MS"));
-    title->setFont(titleFont);
-    title->setAlignment(Qt::AlignCenter);
+    titleFont.setPointSize(TitleSize);
+    titleFont.setBold(true);
+    m_title->setFont(titleFont);
 
     QFont choiceFont(QStringLiteral("Comic Sans MS"));
-    choiceFont.setPointSize(15);
+    choiceFont.setPointSize(ChoiceSize);
     choiceFont.setBold(true);
-    // One sheet for all fifteen buttons: read and applied once, which the menu's first
-    // paint feels.
-    QString buttonStyles;
     auto *grid = new QGridLayout;
     grid->setSpacing(12);
     for (int i = 0; i < ChoiceCount; ++i) {
         const auto entry = std::find_if(m_activities.cbegin(), m_activities.cend(),
                                         [i](const ActivityEntry &e) { return e.index == i; });
-        auto *button = Named(new QPushButton(this), ArrayName("cmdChoice", i));
+        auto *button =
+            Named(new BrightButton(QColor(ButtonColours[i]), this), ArrayName("cmdChoice", i));
         button->setText(entry != m_activities.cend() ? entry->caption : QString());
         button->setAccessibleName(SpokenCaption(button->text()));
         button->setFont(choiceFont);
@@ -90,13 +138,10 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
         button->setEnabled(entry != m_activities.cend() && entry->open);
         if (!button->isEnabled())
             button->setToolTip(tr("This activity is not in this version yet."));
-        buttonStyles += BrightButtonStyle(u'#' + button->objectName(), QColor(ButtonColours[i]), 14);
         connect(button, &QPushButton::clicked, this, [this, i] { openActivity(i); });
         grid->addWidget(button, i / Columns, i % Columns);
         m_choices.append(button);
     }
-
-    setStyleSheet(buttonStyles);
 
     cmdHelp = Named(new QPushButton(tr("&Help"), this), QStringLiteral("cmdHelp"));
     cmdSound = Named(new QPushButton(this), QStringLiteral("cmdSound"));
@@ -105,7 +150,8 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
     cmdSound->setAccessibleName(tr("Sound"));
     cmdExit = Named(new QPushButton(tr("E&xit"), this), QStringLiteral("cmdExit"));
     for (QPushButton *button : {cmdHelp, cmdSound, cmdExit}) {
-        ScaleFont(button, 1.3, true);
+        // The lettering of the activity buttons: one size and weight fewer to load at start.
+        button->setFont(choiceFont);
         button->setMinimumHeight(44);
         button->setMinimumWidth(130);
     }
@@ -122,7 +168,7 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
 
     auto *top = new QHBoxLayout;
     top->addWidget(Image1, 3);
-    top->addWidget(title, 2);
+    top->addWidget(m_title, 2);
     auto *bottom = new QHBoxLayout;
     bottom->addWidget(cmdHelp);
     bottom->addWidget(cmdSound);
@@ -189,23 +235,29 @@ void frmMenu::resizeEvent(QResizeEvent *event)
     // Never larger than the screen allowed (FitScale) on a small or highly scaled screen.
     const double fit = FitScale(this);
     const double scale = qBound(fit, qMin(width() / 1000.0, height() / 700.0), 2.5 * fit);
-    for (QPushButton *button : std::as_const(m_choices)) {
-        QFont font = button->font();
-        if (qFuzzyCompare(font.pointSizeF(), 15 * scale))
-            continue; // an unchanged font would still re-lay the buttons out
-        font.setPointSizeF(15 * scale);
-        button->setFont(font);
-    }
+    const auto resize = [](QWidget *widget, double size) {
+        QFont font = widget->font();
+        if (qFuzzyCompare(font.pointSizeF(), size))
+            return; // an unchanged font would still re-lay the buttons out
+        font.setPointSizeF(size);
+        widget->setFont(font);
+    };
+    for (QPushButton *button : std::as_const(m_choices))
+        resize(button, ChoiceSize * scale);
+    resize(m_title, TitleSize * scale);
 }
 
 void frmMenu::paintEvent(QPaintEvent *event)
 {
     QWidget::paintEvent(event);
-    // The buttons come first: the picture is drawn right after the first frame, which it
-    // would otherwise hold back by several milliseconds.
+    // The buttons come first: the picture and the program's icon are drawn right after the
+    // first frame, which they would otherwise hold back by several milliseconds.
     if (!m_pictureAsked) {
         m_pictureAsked = true;
-        QTimer::singleShot(0, this, [this] { Image1->load(DataFile(QStringLiteral("menu.svg"))); });
+        QTimer::singleShot(0, this, [this] {
+            Image1->load(DataFile(QStringLiteral("menu.svg")));
+            LoadProgramIcon();
+        });
     }
 }
 

@@ -41,6 +41,7 @@ private:
     QList<ActivityEntry> m_activities;
     QList<QPushButton *> m_choices;
     PictureBox *Image1;
+    QWidget *m_title;
     QPushButton *cmdHelp;
     QPushButton *cmdSound;
     QPushButton *cmdExit;

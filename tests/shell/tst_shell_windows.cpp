@@ -9,11 +9,14 @@
 #include "shell/RealServices.h"
 #include "shell/core/Settings.h"
 #include "shell/WindowUtil.h"
+#include "shell/widgets/BrightButton.h"
 #include "support/TestDoubles.h"
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QIcon>
+#include <QImage>
 #include <QLabel>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -186,6 +189,63 @@ private slots:
         QCOMPARE(real.cmdChoice(8)->accessibleName(), QStringLiteral("Graphs & Charts"));
         QTest::mouseClick(sound, Qt::LeftButton);
         QVERIFY(!Preferences::get().muted);
+    }
+
+    // The menu's buttons paint themselves: each state must show in the colours of its look,
+    // the ring at the edge and the face just inside it.
+    void brightButtonsShowTheirState_data()
+    {
+        QTest::addColumn<QString>("state");
+        QTest::addColumn<QColor>("ring");
+        QTest::addColumn<QColor>("face");
+        const QColor red(0xC6, 0x28, 0x28);
+        const BrightColours c = BrightColoursOf(red);
+        QTest::newRow("resting") << "resting" << c.border << c.face;
+        QTest::newRow("pressed") << "pressed" << c.border << c.border;
+        QTest::newRow("focused") << "focused" << c.focus << c.face;
+        QTest::newRow("disabled") << "disabled" << c.disabledBorder << c.disabledFace;
+    }
+
+    void brightButtonsShowTheirState()
+    {
+        QFETCH(QString, state);
+        QFETCH(QColor, ring);
+        QFETCH(QColor, face);
+        QWidget window;
+        auto *other = new QPushButton(QStringLiteral("Other"), &window);
+        auto *button = new BrightButton(QColor(0xC6, 0x28, 0x28), &window);
+        button->setText(QStringLiteral("\tMath Race"));
+        button->setGeometry(0, 40, 200, 80);
+        window.resize(220, 140);
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        other->setFocus();
+        if (state == QLatin1String("pressed"))
+            button->setDown(true);
+        else if (state == QLatin1String("focused"))
+            button->setFocus();
+        else if (state == QLatin1String("disabled"))
+            button->setEnabled(false);
+        const QImage picture = button->grab().toImage();
+        const int middle = picture.height() / 2;
+        QCOMPARE(picture.pixelColor(1, middle).rgb(), ring.rgb());
+        QCOMPARE(picture.pixelColor(8, middle).rgb(), face.rgb());
+        // Room for the whole caption, without the tab it begins with, and the padding.
+        QVERIFY(button->sizeHint().width() >=
+                button->fontMetrics().horizontalAdvance(QStringLiteral("Math Race")) + 28);
+    }
+
+    // The program's icon is loaded just after the menu's first paint, not before it.
+    void menuGivesTheProgramItsIconAfterItsFirstPaint()
+    {
+        TestEnvironment env;
+        QApplication::setWindowIcon(QIcon());
+        frmMenu menu(fakeTable());
+        menu.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&menu));
+        QTRY_VERIFY(!QApplication::windowIcon().isNull());
+        QVERIFY(!QApplication::windowIcon().pixmap(32).isNull());
     }
 
     void wordEntryTakesOnlyCapitalsHyphensAndApostrophes()
