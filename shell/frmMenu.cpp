@@ -143,12 +143,16 @@ frmMenu::frmMenu(const QList<ActivityEntry> &activities, QWidget *parent)
         m_choices.append(button);
     }
 
-    cmdHelp = Named(new QPushButton(tr("&Help"), this), QStringLiteral("cmdHelp"));
-    cmdSound = Named(new QPushButton(this), QStringLiteral("cmdSound"));
+    // The plainer buttons below in one calm colour, so the activities stand out above them.
+    const QColor calm(0x54, 0x6E, 0x7A);
+    cmdHelp = Named(new BrightButton(calm, this, 10), QStringLiteral("cmdHelp"));
+    cmdHelp->setText(tr("&Help"));
+    cmdSound = Named(new BrightButton(calm, this, 10), QStringLiteral("cmdSound"));
     cmdSound->setCheckable(true);
     // Read as what it is: a switch called Sound, on (checked) while sounds play.
     cmdSound->setAccessibleName(tr("Sound"));
-    cmdExit = Named(new QPushButton(tr("E&xit"), this), QStringLiteral("cmdExit"));
+    cmdExit = Named(new BrightButton(calm, this, 10), QStringLiteral("cmdExit"));
+    cmdExit->setText(tr("E&xit"));
     for (QPushButton *button : {cmdHelp, cmdSound, cmdExit}) {
         // The lettering of the activity buttons: one size and weight fewer to load at start.
         button->setFont(choiceFont);
