@@ -490,7 +490,7 @@ QWidget *frmGraphs::buildDataPage()
     auto *paintCaption = makeNote(tr("Paint box: click a row's colour, then a new one."), paintBox);
     paintCaption->setWordWrap(true);
     paintCaption->setStyleSheet(QStringLiteral("color: #546E7A;"));
-    paintLayout->addWidget(paintCaption, 0, 0, 1, Graph::Colours / 2);
+    paintLayout->addWidget(paintCaption, 0, 0, 1, Graph::Colours);
     for (int j = 0; j < Graph::Colours; ++j) {
         auto *choice = Named(new ColourSwatch(paintBox), ArrayName("lblColorChoice", j));
         choice->setColourIndex(j);
@@ -503,7 +503,8 @@ QWidget *frmGraphs::buildDataPage()
                 other->setMarked(other->colourIndex() == j);
             edited();
         });
-        paintLayout->addWidget(choice, 1 + j / (Graph::Colours / 2), j % (Graph::Colours / 2));
+        // One row of colours leaves the data rows above one more line on a small screen.
+        paintLayout->addWidget(choice, 1, j);
         lblColorChoice.append(choice);
     }
     outer->addWidget(paintBox);
