@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmGeo.h"
 
-#include "FlagButton.h"
 
 #include "shell/core/DataPath.h"
 #include "shell/core/Settings.h"
@@ -12,7 +11,6 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -22,12 +20,13 @@
 
 namespace {
 enum Page { MapPage, FlagPage };
-enum Setting { AnswerType, CapitalsWay, FindWay, FlagsWay };
 
 constexpr QuizLook Look{"#0D47A1", "#90CAF9", "#BBDEFB"};
 } // namespace
 
-frmGeo::frmGeo(QWidget *parent) : QuizWindow(QStringLiteral("usgeography"), Look, parent)
+frmGeo::frmGeo(QWidget *parent)
+    : GeoQuizWindow(QStringLiteral("usgeography"), Look, &Settings::usGeography,
+                    UsStates::QuizFields(), parent)
 {
     setObjectName(QStringLiteral("frmGeo"));
     setWindowTitle(tr("US Geography"));
@@ -69,18 +68,9 @@ void frmGeo::buildControls()
     for (PictureBox *inset : {picAK, picHI})
         inset->installEventFilter(this);
     picArea->addWidget(picMap);
+    m_map = picMap;
 
-    fraFlags = Named(new QWidget(picArea), QStringLiteral("fraFlags"));
-    auto *flagGrid = new QGridLayout(fraFlags);
-    flagGrid->setContentsMargins(0, 0, 0, 0);
-    for (int i = 1; i <= 4; ++i) {
-        auto *flag = Named(new FlagButton(fraFlags), ArrayName("imgFlagGame", i));
-        flag->setAccessibleName(tr("Flag %1").arg(i));
-        connect(flag, &FlagButton::clicked, this, [this, i] { imgFlagGame_Click(i); });
-        flagGrid->addWidget(flag, (i - 1) / 2, (i - 1) % 2);
-        imgFlagGame.append(flag);
-    }
-    picArea->addWidget(fraFlags);
+    buildFlagPage();
 
     lblName = addLabel(QStringLiteral("lblName"), tr("State"), 1.6, true);
     lblName->setStyleSheet(QStringLiteral("color: #0D47A1;"));
@@ -111,9 +101,7 @@ void frmGeo::buildControls()
         facts->addWidget(fact);
 
     const AnswerRows rows = buildAnswerControls("#1565C0", tr("Previous state"), tr("Next state"));
-    Label1 = addLabel(QStringLiteral("Label1"), tr("Map hint"), 0.95);
-    Label1->setText(tr("Click on state or use arrows."));
-    rows.actions->insertWidget(3, Label1, 1);
+    buildMapHint(tr("Click on state or use arrows."), rows.actions);
 
     fraChoice = Named(new QGroupBox(tr("US Geography"), this), QStringLiteral("fraChoice"));
     fraChoice->setStyleSheet(frameStyle());
@@ -135,28 +123,9 @@ void frmGeo::buildControls()
                 tr("&Find the State"), tr("State F&lags")},
                {"#1565C0", "#6A1B9A", "#EF6C00", "#2E7D32", "#C62828"});
 
-    fraType = buildWays(tr("Answer Type"), QStringLiteral("fraType"), "optType",
-                        {tr("Type-In"), tr("Multiple Choice")}, optType, AnswerType);
-    fraWhich1 = buildWays(tr("Choose"), QStringLiteral("fraWhich1"), "optWhich1",
-                          {tr("Name Capital"), tr("Name State")}, optWhich1, CapitalsWay);
-    fraWhich2 = buildWays(tr("Choose"), QStringLiteral("fraWhich2"), "optWhich2",
-                          {tr("Name State"), tr("Find State")}, optWhich2, FindWay);
-    fraWhich3 = buildWays(tr("Choose"), QStringLiteral("fraWhich3"), "optWhich3",
-                          {tr("Pick Flag"), tr("Name State")}, optWhich3, FlagsWay);
+    buildWays(tr("Name State"), tr("Find State"));
 
     finishControls({fraChoices, fraType, fraWhich1, fraWhich2, fraWhich3});
-}
-
-QGroupBox *frmGeo::buildWays(const QString &caption, const QString &name, const char *optionName,
-                             const QStringList &captions, QList<QRadioButton *> &options,
-                             int setting)
-{
-    const int checked = qBound(0, int(TheSettings().usGeography.values[setting]), 1);
-    return buildOptions(caption, name, optionName, captions, checked, options,
-                        [this, setting](int index) {
-                            TheSettings().usGeography.values[setting] = qint16(index);
-                            optionChanged();
-                        });
 }
 
 void frmGeo::showEvent(QShowEvent *event)
@@ -190,13 +159,6 @@ bool frmGeo::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == picMap && event->type() == QEvent::Resize)
         placeInsets();
-    // The map shows a ring while the arrow keys work on it.
-    if (watched == picMap &&
-        (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut))
-        picArea->setStyleSheet(
-            QStringLiteral("#picArea { border: 3px solid %1; border-radius: 6px; }")
-                .arg(event->type() == QEvent::FocusIn ? QStringLiteral("#FFC107")
-                                                      : QStringLiteral("transparent")));
     const bool onMap = watched == picMap || watched == picAK || watched == picHI;
     if (onMap && event->type() == QEvent::MouseButtonPress) {
         auto *mouse = static_cast<QMouseEvent *>(event);
@@ -210,58 +172,12 @@ bool frmGeo::eventFilter(QObject *watched, QEvent *event)
         mapClicked((at - picture.topLeft()) * scale);
         return true;
     }
-    if (watched == picMap && event->type() == QEvent::KeyPress && m_quiz.mode() == FindIt &&
-        direction(FindIt) == Direction::FindOnMap) {
-        auto *key = static_cast<QKeyEvent *>(event);
-        const int count = m_table.count();
-        switch (key->key()) {
-        case Qt::Key_Left:
-        case Qt::Key_Up:
-            pointAt(m_pointed <= 1 ? count : m_pointed - 1);
-            return true;
-        case Qt::Key_Right:
-        case Qt::Key_Down:
-            pointAt(m_pointed >= count ? 1 : m_pointed + 1);
-            return true;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-        case Qt::Key_Space:
-            if (m_pointed > 0 && !m_quiz.isAnswered())
-                txtAnswer_Enter();
-            return true;
-        default:
-            break;
-        }
-    }
-    if (watched == picMap && event->type() == QEvent::KeyPress &&
-        stepByKey(static_cast<QKeyEvent *>(event)->key()))
-        return true;
-    return QuizWindow::eventFilter(watched, event);
+    return GeoQuizWindow::eventFilter(watched, event);
 }
 
-int frmGeo::direction(int mode) const
+QString frmGeo::flagFile(int record) const
 {
-    const auto &values = TheSettings().usGeography.values;
-    switch (mode) {
-    case Capitals:
-        return qBound(0, int(values[CapitalsWay]), 1);
-    case FindIt:
-        return qBound(0, int(values[FindWay]), 1);
-    case Flags:
-        return qBound(0, int(values[FlagsWay]), 1);
-    default:
-        return 0;
-    }
-}
-
-bool frmGeo::multipleChoice() const
-{
-    return TheSettings().usGeography.values[AnswerType] == 1;
-}
-
-QuizPlan frmGeo::planFor(int mode) const
-{
-    return StandardPlan(QuizMode(mode), multipleChoice(), direction(mode), UsStates::QuizFields());
+    return UsStates::FlagFile(m_table, record);
 }
 
 QString frmGeo::modeTitle(int mode) const
@@ -280,27 +196,6 @@ QString frmGeo::cannotStart(const QString &error) const
     return tr("US Geography cannot start because its file of states is missing or "
               "damaged.\n\n%1\n\nPlease reinstall the program.")
         .arg(error);
-}
-
-void frmGeo::showModeOptions(int mode)
-{
-    fraWhich1->setVisible(mode == Capitals);
-    fraWhich2->setVisible(mode == FindIt);
-    fraWhich3->setVisible(mode == Flags);
-}
-
-void frmGeo::showIdlePictures()
-{
-    picArea->setCurrentIndex(MapPage);
-}
-
-void frmGeo::hideModeControls()
-{
-    Label1->hide();
-    fraWhich1->hide();
-    fraWhich2->hide();
-    fraWhich3->hide();
-    picMap->setFocusPolicy(Qt::NoFocus);
 }
 
 void frmGeo::clearItems()
@@ -322,7 +217,7 @@ void frmGeo::resetInsets()
     picHI->load(DataFile(UsStates::HawaiiInset(false)));
 }
 
-void frmGeo::showMapOf(int record)
+void frmGeo::showOnMap(int record)
 {
     resetInsets();
     if (record == UsStates::Alaska) {
@@ -345,7 +240,7 @@ void frmGeo::showItem(int item)
     using namespace UsStates;
     switch (item) {
     case MapItem:
-        showMapOf(r);
+        showOnMap(r);
         break;
     case FlagItem:
         imgFlag->load(DataFile(FlagFile(m_table, r)));
@@ -397,35 +292,6 @@ void frmGeo::showReview()
     picMap->setFocusPolicy(Qt::NoFocus);
 }
 
-void frmGeo::setAnswerWidgets()
-{
-    const int mode = m_quiz.mode();
-    const bool onMap = mode == FindIt && direction(FindIt) == Direction::FindOnMap;
-    const bool flagPick = mode == Flags && direction(Flags) == Direction::PickFlag;
-    picArea->setCurrentIndex(flagPick ? FlagPage : MapPage);
-    const bool choicesShown = m_quiz.plan().multipleChoice && !flagPick;
-    txtAnswer->setVisible(!choicesShown && !flagPick);
-    txtAnswer->setReadOnly(onMap);
-    txtAnswer->setPlaceholderText(onMap ? tr("Click on the map") : tr("Type here, then Enter"));
-    showChoices(choicesShown);
-    for (int i = 0; i < imgFlagGame.size(); ++i) {
-        FlagButton *flag = imgFlagGame[i];
-        flag->setMark(FlagButton::None);
-        if (flagPick)
-            flag->load(DataFile(UsStates::FlagFile(m_table, m_quiz.choices().value(i))));
-    }
-    Label1->setVisible(onMap);
-    picMap->setFocusPolicy(onMap ? Qt::StrongFocus : Qt::NoFocus);
-    if (onMap)
-        picMap->setFocus();
-    else if (flagPick)
-        imgFlagGame[0]->setFocus();
-    else if (choicesShown)
-        lblanswer[0]->setFocus();
-    else
-        txtAnswer->setFocus();
-}
-
 void frmGeo::askQuestion()
 {
     const int r = m_quiz.currentRecord();
@@ -469,12 +335,6 @@ void frmGeo::askQuestion()
     setAnswerWidgets();
 }
 
-void frmGeo::imgFlagGame_Click(int choice)
-{
-    pick(choice, QString(),
-         [this, choice] { imgFlagGame[choice - 1]->setMark(FlagButton::Wrong); });
-}
-
 QString frmGeo::showHint()
 {
     if (m_quiz.mode() == Capitals) {
@@ -498,40 +358,4 @@ void frmGeo::showAnswer()
         showItem(UsStates::MapItem);
     if (mode == Flags)
         showItem(UsStates::FlagItem);
-}
-
-bool frmGeo::choicesOffered() const
-{
-    return m_quiz.plan().multipleChoice;
-}
-
-void frmGeo::markRight(int choice)
-{
-    if (picArea->currentIndex() == FlagPage)
-        imgFlagGame[choice - 1]->setMark(FlagButton::Right);
-    else
-        QuizWindow::markRight(choice);
-}
-
-void frmGeo::pointAt(int record)
-{
-    m_pointed = record;
-    showMapOf(record);
-    txtAnswer->setText(m_table.text(record, UsStates::Name));
-}
-
-void frmGeo::mapClicked(QPointF mapUnits)
-{
-    const int mode = m_quiz.mode();
-    if (mode == Review) {
-        m_quiz.select(m_mapClick.recordAt(mapUnits, m_quiz.currentRecord()));
-        showReview();
-        return;
-    }
-    if (mode != FindIt || direction(FindIt) != Direction::FindOnMap || m_quiz.isAnswered())
-        return;
-    const int record = m_mapClick.recordAt(mapUnits, m_quiz.currentRecord());
-    m_pointed = record;
-    txtAnswer->setText(m_table.text(record, UsStates::Name));
-    txtAnswer_Enter();
 }

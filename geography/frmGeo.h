@@ -3,19 +3,16 @@
 
 #include "UsStates.h"
 
-#include "quiz/widgets/QuizWindow.h"
+#include "GeoQuizWindow.h"
 
 #include <QList>
 
-class FlagButton;
 class PictureBox;
-class QGroupBox;
 class QLabel;
-class QRadioButton;
 
 // US Geography: browse the fifty states on the map with their facts, or play the four
 // quizzes (capitals, a state from its clues, a state on the map, flags), typed or picked.
-class frmGeo : public QuizWindow {
+class frmGeo : public GeoQuizWindow {
     Q_OBJECT
 public:
     explicit frmGeo(QWidget *parent = nullptr);
@@ -29,8 +26,6 @@ public:
     PictureBox *picMap;
     PictureBox *picAK;
     PictureBox *picHI;
-    QWidget *fraFlags;
-    QList<FlagButton *> imgFlagGame; // 1..4 at indices 0..3
     QLabel *lblAbbr;
     QLabel *lblNick;
     QLabel *lblNumber;
@@ -38,13 +33,6 @@ public:
     QLabel *lblCapital;
     QLabel *lblRegion;
     PictureBox *imgFlag;
-    QLabel *Label1;
-    QGroupBox *fraWhich1;
-    QList<QRadioButton *> optWhich1;
-    QGroupBox *fraWhich2;
-    QList<QRadioButton *> optWhich2;
-    QGroupBox *fraWhich3;
-    QList<QRadioButton *> optWhich3;
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -52,36 +40,20 @@ protected:
 
 private:
     void buildControls();
-    QGroupBox *buildWays(const QString &caption, const QString &name, const char *optionName,
-                         const QStringList &captions, QList<QRadioButton *> &options, int setting);
     void placeInsets();
     void resetInsets();
-    void imgFlagGame_Click(int choice);
-    void mapClicked(QPointF mapUnits);
-
-    int direction(int mode) const;
-    bool multipleChoice() const;
-    void setAnswerWidgets();
     void showAllItems();
-    void showMapOf(int record);
-    void pointAt(int record);
 
+    QString flagFile(int record) const override;
+    void showOnMap(int record) override;
     QString modeTitle(int mode) const override;
-    QuizPlan planFor(int mode) const override;
     QString cannotStart(const QString &error) const override;
     void clearItems() override;
-    void showIdlePictures() override;
-    void hideModeControls() override;
-    void showModeOptions(int mode) override;
     void showReview() override;
     void showItem(int item) override;
     void askQuestion() override;
     QString showHint() override;
     void showAnswer() override;
-    bool choicesOffered() const override;
-    void markRight(int choice) override;
 
-    MapClick m_mapClick;
     UsStates::MapGeometry m_geometry;
-    int m_pointed = 0; // the state chosen with the arrow keys on the map, in Find State
 };

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmWGeo.h"
 
-#include "FlagButton.h"
 #include "WorldMap.h"
 
 #include "shell/core/DataPath.h"
@@ -13,7 +12,6 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -23,13 +21,14 @@
 
 namespace {
 enum Page { MapPage, FlagPage };
-enum Setting { AnswerType, CapitalsWay, FindWay, FlagsWay };
 constexpr double NearClickPixels = 5;
 
 constexpr QuizLook Look{"#0D47A1", "#90CAF9", "#BBDEFB"};
 } // namespace
 
-frmWGeo::frmWGeo(QWidget *parent) : QuizWindow(QStringLiteral("worldgeography"), Look, parent)
+frmWGeo::frmWGeo(QWidget *parent)
+    : GeoQuizWindow(QStringLiteral("worldgeography"), Look, &Settings::worldGeography,
+                    WorldCountries::QuizFields(), parent)
 {
     setObjectName(QStringLiteral("frmWGeo"));
     setWindowTitle(tr("World Geography"));
@@ -74,18 +73,9 @@ void frmWGeo::buildControls()
     picMap->setCursor(Qt::PointingHandCursor);
     picMap->installEventFilter(this);
     picArea->addWidget(picMap);
+    m_map = picMap;
 
-    fraFlags = Named(new QWidget(picArea), QStringLiteral("fraFlags"));
-    auto *flagGrid = new QGridLayout(fraFlags);
-    flagGrid->setContentsMargins(0, 0, 0, 0);
-    for (int i = 1; i <= 4; ++i) {
-        auto *flag = Named(new FlagButton(fraFlags), ArrayName("imgFlagGame", i));
-        flag->setAccessibleName(tr("Flag %1").arg(i));
-        connect(flag, &FlagButton::clicked, this, [this, i] { imgFlagGame_Click(i); });
-        flagGrid->addWidget(flag, (i - 1) / 2, (i - 1) % 2);
-        imgFlagGame.append(flag);
-    }
-    picArea->addWidget(fraFlags);
+    buildFlagPage();
 
     lblName = addLabel(QStringLiteral("lblName"), tr("Country"), 1.6, true);
     lblName->setStyleSheet(QStringLiteral("color: #0D47A1;"));
@@ -115,9 +105,7 @@ void frmWGeo::buildControls()
 
     const AnswerRows rows =
         buildAnswerControls("#1565C0", tr("Previous country"), tr("Next country"));
-    Label1 = addLabel(QStringLiteral("Label1"), tr("Map hint"), 0.95);
-    Label1->setText(tr("Click on a country or use arrows."));
-    rows.actions->insertWidget(3, Label1, 1);
+    buildMapHint(tr("Click on a country or use arrows."), rows.actions);
 
     fraChoice = Named(new QGroupBox(tr("World Geography"), this), QStringLiteral("fraChoice"));
     fraChoice->setStyleSheet(frameStyle());
@@ -142,28 +130,9 @@ void frmWGeo::buildControls()
                 tr("&Find the Country"), tr("Country F&lags")},
                {"#1565C0", "#6A1B9A", "#EF6C00", "#2E7D32", "#C62828"});
 
-    fraType = buildWays(tr("Answer Type"), QStringLiteral("fraType"), "optType",
-                        {tr("Type-In"), tr("Multiple Choice")}, optType, AnswerType);
-    fraWhich1 = buildWays(tr("Choose"), QStringLiteral("fraWhich1"), "optWhich1",
-                          {tr("Name Capital"), tr("Name Country")}, optWhich1, CapitalsWay);
-    fraWhich2 = buildWays(tr("Choose"), QStringLiteral("fraWhich2"), "optWhich2",
-                          {tr("Name Country"), tr("Find Country")}, optWhich2, FindWay);
-    fraWhich3 = buildWays(tr("Choose"), QStringLiteral("fraWhich3"), "optWhich3",
-                          {tr("Pick Flag"), tr("Name Country")}, optWhich3, FlagsWay);
+    buildWays(tr("Name Country"), tr("Find Country"));
 
     finishControls({fraChoices, fraType, fraWhich1, fraWhich2, fraWhich3});
-}
-
-QGroupBox *frmWGeo::buildWays(const QString &caption, const QString &name, const char *optionName,
-                              const QStringList &captions, QList<QRadioButton *> &options,
-                              int setting)
-{
-    const int checked = qBound(0, int(TheSettings().worldGeography.values[setting]), 1);
-    return buildOptions(caption, name, optionName, captions, checked, options,
-                        [this, setting](int index) {
-                            TheSettings().worldGeography.values[setting] = qint16(index);
-                            optionChanged();
-                        });
 }
 
 QPoint frmWGeo::mapPoint(QPointF mapUnits) const
@@ -173,73 +142,20 @@ QPoint frmWGeo::mapPoint(QPointF mapUnits) const
 
 bool frmWGeo::eventFilter(QObject *watched, QEvent *event)
 {
-    // The map shows a ring while the arrow keys work on it.
-    if (watched == picMap &&
-        (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut))
-        picArea->setStyleSheet(
-            QStringLiteral("#picArea { border: 3px solid %1; border-radius: 6px; }")
-                .arg(event->type() == QEvent::FocusIn ? QStringLiteral("#FFC107")
-                                                      : QStringLiteral("transparent")));
     if (watched == picMap && event->type() == QEvent::MouseButtonPress) {
         auto *mouse = static_cast<QMouseEvent *>(event);
         if (mouse->button() != Qt::LeftButton || picMap->pictureRect().isEmpty())
             return true;
-        mapClicked(picMap->toMap(mouse->position()));
+        // A click a few pixels off a small country's coast still finds it.
+        mapClicked(picMap->toMap(mouse->position()), NearClickPixels * picMap->unitsPerPixel());
         return true;
     }
-    if (watched == picMap && event->type() == QEvent::KeyPress && m_quiz.mode() == FindIt &&
-        direction(FindIt) == Direction::FindOnMap) {
-        auto *key = static_cast<QKeyEvent *>(event);
-        const int count = m_table.count();
-        switch (key->key()) {
-        case Qt::Key_Left:
-        case Qt::Key_Up:
-            pointAt(m_pointed <= 1 ? count : m_pointed - 1);
-            return true;
-        case Qt::Key_Right:
-        case Qt::Key_Down:
-            pointAt(m_pointed >= count ? 1 : m_pointed + 1);
-            return true;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-        case Qt::Key_Space:
-            if (m_pointed > 0 && !m_quiz.isAnswered())
-                txtAnswer_Enter();
-            return true;
-        default:
-            break;
-        }
-    }
-    if (watched == picMap && event->type() == QEvent::KeyPress &&
-        stepByKey(static_cast<QKeyEvent *>(event)->key()))
-        return true;
-    return QuizWindow::eventFilter(watched, event);
+    return GeoQuizWindow::eventFilter(watched, event);
 }
 
-int frmWGeo::direction(int mode) const
+QString frmWGeo::flagFile(int record) const
 {
-    const auto &values = TheSettings().worldGeography.values;
-    switch (mode) {
-    case Capitals:
-        return qBound(0, int(values[CapitalsWay]), 1);
-    case FindIt:
-        return qBound(0, int(values[FindWay]), 1);
-    case Flags:
-        return qBound(0, int(values[FlagsWay]), 1);
-    default:
-        return 0;
-    }
-}
-
-bool frmWGeo::multipleChoice() const
-{
-    return TheSettings().worldGeography.values[AnswerType] == 1;
-}
-
-QuizPlan frmWGeo::planFor(int mode) const
-{
-    return StandardPlan(QuizMode(mode), multipleChoice(), direction(mode),
-                        WorldCountries::QuizFields());
+    return WorldCountries::FlagFile(record);
 }
 
 QString frmWGeo::modeTitle(int mode) const
@@ -260,27 +176,6 @@ QString frmWGeo::cannotStart(const QString &error) const
         .arg(error);
 }
 
-void frmWGeo::showModeOptions(int mode)
-{
-    fraWhich1->setVisible(mode == Capitals);
-    fraWhich2->setVisible(mode == FindIt);
-    fraWhich3->setVisible(mode == Flags);
-}
-
-void frmWGeo::showIdlePictures()
-{
-    picArea->setCurrentIndex(MapPage);
-}
-
-void frmWGeo::hideModeControls()
-{
-    Label1->hide();
-    fraWhich1->hide();
-    fraWhich2->hide();
-    fraWhich3->hide();
-    picMap->setFocusPolicy(Qt::NoFocus);
-}
-
 void frmWGeo::clearItems()
 {
     for (QLabel *item : {lblName, lblCapital, lblRegion, lblProducts})
@@ -293,7 +188,7 @@ void frmWGeo::clearItems()
     m_pointed = 0;
 }
 
-void frmWGeo::showPointerAt(int record)
+void frmWGeo::showOnMap(int record)
 {
     using namespace WorldCountries;
     picMap->setPointer(QPointF(m_table.number(record, MapX), m_table.number(record, MapY)));
@@ -308,7 +203,7 @@ void frmWGeo::showItem(int item)
     using namespace WorldCountries;
     switch (item) {
     case MapItem:
-        showPointerAt(r);
+        showOnMap(r);
         break;
     case FlagItem:
         imgFlag->load(DataFile(FlagFile(r)));
@@ -348,35 +243,6 @@ void frmWGeo::showReview()
     fraNext->show();
     Label1->show();
     picMap->setFocusPolicy(Qt::NoFocus);
-}
-
-void frmWGeo::setAnswerWidgets()
-{
-    const int mode = m_quiz.mode();
-    const bool onMap = mode == FindIt && direction(FindIt) == Direction::FindOnMap;
-    const bool flagPick = mode == Flags && direction(Flags) == Direction::PickFlag;
-    picArea->setCurrentIndex(flagPick ? FlagPage : MapPage);
-    const bool choicesShown = m_quiz.plan().multipleChoice && !flagPick;
-    txtAnswer->setVisible(!choicesShown && !flagPick);
-    txtAnswer->setReadOnly(onMap);
-    txtAnswer->setPlaceholderText(onMap ? tr("Click on the map") : tr("Type here, then Enter"));
-    showChoices(choicesShown);
-    for (int i = 0; i < imgFlagGame.size(); ++i) {
-        FlagButton *flag = imgFlagGame[i];
-        flag->setMark(FlagButton::None);
-        if (flagPick)
-            flag->load(DataFile(WorldCountries::FlagFile(m_quiz.choices().value(i))));
-    }
-    Label1->setVisible(onMap);
-    picMap->setFocusPolicy(onMap ? Qt::StrongFocus : Qt::NoFocus);
-    if (onMap)
-        picMap->setFocus();
-    else if (flagPick)
-        imgFlagGame[0]->setFocus();
-    else if (choicesShown)
-        lblanswer[0]->setFocus();
-    else
-        txtAnswer->setFocus();
 }
 
 void frmWGeo::askQuestion()
@@ -422,12 +288,6 @@ void frmWGeo::askQuestion()
     setAnswerWidgets();
 }
 
-void frmWGeo::imgFlagGame_Click(int choice)
-{
-    pick(choice, QString(),
-         [this, choice] { imgFlagGame[choice - 1]->setMark(FlagButton::Wrong); });
-}
-
 QString frmWGeo::showHint()
 {
     if (m_quiz.mode() == Capitals) {
@@ -450,42 +310,4 @@ void frmWGeo::showAnswer()
         showItem(WorldCountries::MapItem);
     if (mode == Flags)
         showItem(WorldCountries::FlagItem);
-}
-
-bool frmWGeo::choicesOffered() const
-{
-    return m_quiz.plan().multipleChoice;
-}
-
-void frmWGeo::markRight(int choice)
-{
-    if (picArea->currentIndex() == FlagPage)
-        imgFlagGame[choice - 1]->setMark(FlagButton::Right);
-    else
-        QuizWindow::markRight(choice);
-}
-
-void frmWGeo::pointAt(int record)
-{
-    m_pointed = record;
-    showPointerAt(record);
-    txtAnswer->setText(m_table.text(record, WorldCountries::Name));
-}
-
-void frmWGeo::mapClicked(QPointF mapUnits)
-{
-    // A click a few pixels off a small country's coast still finds it.
-    const double reach = NearClickPixels * picMap->unitsPerPixel();
-    const int mode = m_quiz.mode();
-    if (mode == Review) {
-        m_quiz.select(m_mapClick.recordAt(mapUnits, m_quiz.currentRecord(), reach));
-        showReview();
-        return;
-    }
-    if (mode != FindIt || direction(FindIt) != Direction::FindOnMap || m_quiz.isAnswered())
-        return;
-    const int record = m_mapClick.recordAt(mapUnits, m_quiz.currentRecord(), reach);
-    m_pointed = record;
-    txtAnswer->setText(m_table.text(record, WorldCountries::Name));
-    txtAnswer_Enter();
 }
