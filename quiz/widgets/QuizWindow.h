@@ -59,13 +59,14 @@ public:
 protected:
     QuizWindow(const QString &helpTopic, const QuizLook &look, QWidget *parent);
 
-    // Building, in the order the pupil tabs through the controls.
+    // Building. Tab follows the order controls are made in, so a window calls these where
+    // its controls come in that order.
     QLabel *addLabel(const QString &name, const QString &spoken, double scale, bool bold = false);
     QPushButton *addButton(const QString &caption, const QString &name, const char *colour);
     QString frameStyle() const;
     // The question, the answer box and choices, the result, Answer, Clue, the arrows that step
-    // through the records in review, and the score. Returns the row of actions, for a window
-    // to add its own hint to.
+    // through the records in review, and the score. Returns the answer row and the row of
+    // actions, for the window to place and to add its own hint to.
     struct AnswerRows {
         QHBoxLayout *answer;
         QHBoxLayout *actions;
@@ -100,6 +101,7 @@ protected:
     virtual void askQuestion() = 0;
     // Shows the mode's hint after a wrong try; returns what the result line adds.
     virtual QString showHint() = 0;
+    // Shows the record once its answer is given or revealed.
     virtual void showAnswer() = 0;
     // Whether the engine's right choice is on screen to be marked.
     virtual bool choicesOffered() const = 0;
