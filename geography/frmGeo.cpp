@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmGeo.h"
 
-
 #include "shell/core/DataPath.h"
 #include "shell/core/Settings.h"
 #include "shell/Services.h"
