@@ -26,8 +26,10 @@ frmGeo *InMode(int mode, int answerType, int direction = 0)
         values[2] = qint16(direction);
     if (mode == Flags)
         values[3] = qint16(direction);
-    Randomize(mode * 7 + direction);
     auto *window = new frmGeo;
+    // After the window, which seeds the source from the clock, so the picture is the same
+    // every time.
+    Randomize(mode * 7 + direction);
     window->cmdChoice[mode - 1]->click();
     return window;
 }
@@ -42,8 +44,10 @@ frmWGeo *WorldInMode(int mode, int answerType, int direction = 0)
         values[2] = qint16(direction);
     if (mode == Flags)
         values[3] = qint16(direction);
-    Randomize(mode * 11 + direction);
     auto *window = new frmWGeo;
+    // After the window, which seeds the source from the clock, so the picture is the same
+    // every time.
+    Randomize(mode * 11 + direction);
     window->cmdChoice[mode - 1]->click();
     return window;
 }

@@ -15,8 +15,10 @@ namespace {
 frmPres *PresidentsInMode(int mode, int answerType, qint64 seed)
 {
     TheSettings().presidents.answerType = qint16(answerType);
-    Randomize(seed);
     auto *window = new frmPres;
+    // After the window, which seeds the source from the clock, so the picture is the same
+    // every time.
+    Randomize(seed);
     window->cmdChoice[mode - 1]->click();
     return window;
 }
