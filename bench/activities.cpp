@@ -4,6 +4,7 @@
 // window's first paint, and the processor time the open window uses while nobody touches it.
 // Every activity added to the table is measured with no change here.
 #include "Activities.h"
+#include "shell/Accessibility.h"
 #include "shell/ActivityWindow.h"
 #include "shell/frmMenu.h"
 #include "shell/Startup.h"
@@ -124,7 +125,7 @@ int main(int argc, char *argv[])
             settle(20);
         }
         if (times.size() != runs) {
-            std::printf("%-20s did not open\n", qPrintable(entry.caption.trimmed()));
+            std::printf("%-20s did not open\n", qPrintable(SpokenCaption(entry.caption)));
             allOpened = false;
             continue;
         }
@@ -140,7 +141,7 @@ int main(int argc, char *argv[])
         std::sort(times.begin(), times.end());
         std::printf("%-20s open %6.1f ms (median of %d, fastest %.1f, slowest %.1f)"
                     "   idle CPU %5.1f ms over %d s\n",
-                    qPrintable(entry.caption.trimmed()), times[times.size() / 2], runs,
+                    qPrintable(SpokenCaption(entry.caption)), times[times.size() / 2], runs,
                     times.first(), times.last(), idleCpu, idleSeconds);
         std::fflush(stdout);
     }
