@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/QuizWindowTesting.h"
 #include "support/TestDoubles.h"
 
 #include "geography/FlagButton.h"
 #include "geography/frmGeo.h"
+#include "GeoQuizTesting.h"
 
 #include "shell/core/DataPath.h"
 #include "shell/core/Settings.h"
@@ -18,36 +20,9 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+using namespace QuizWindowTesting;
+
 namespace {
-template <typename Picture> QString fileName(const Picture *box)
-{
-    return QFileInfo(box->file()).fileName();
-}
-
-// An active window, as on a desktop, so keys and focus behave.
-void showActive(frmGeo &window)
-{
-    window.show();
-    QApplication::setActiveWindow(&window);
-    if (!QTest::qWaitForWindowActive(&window))
-        qWarning("the geography window did not become active");
-}
-
-void choose(frmGeo &window, int answerType, int mode, int direction)
-{
-    window.optType[answerType]->setChecked(true);
-    const QList<QList<QRadioButton *>> ways{window.optWhich1, window.optWhich2, window.optWhich3};
-    if (mode == Capitals || mode == FindIt || mode == Flags)
-        ways[mode == Capitals ? 0 : mode == FindIt ? 1 : 2][direction]->setChecked(true);
-    QTest::mouseClick(window.cmdChoice[mode - 1], Qt::LeftButton);
-}
-
-void typeAnswer(frmGeo &window, const QString &answer)
-{
-    QTest::keyClicks(window.txtAnswer, answer);
-    QTest::keyClick(window.txtAnswer, Qt::Key_Return);
-}
-
 QPoint pointOf(const frmGeo &window, int state)
 {
     return window.mapPoint(QPointF(window.states().number(state, UsStates::MapX),

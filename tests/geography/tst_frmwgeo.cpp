@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/QuizWindowTesting.h"
 #include "support/TestDoubles.h"
 
 #include "geography/FlagButton.h"
 #include "geography/frmWGeo.h"
 #include "geography/WorldMap.h"
+#include "GeoQuizTesting.h"
 
 #include "shell/core/DataPath.h"
 #include "shell/core/Settings.h"
@@ -17,35 +19,9 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+using namespace QuizWindowTesting;
+
 namespace {
-template <typename Picture> QString fileName(const Picture *box)
-{
-    return QFileInfo(box->file()).fileName();
-}
-
-void showActive(frmWGeo &window)
-{
-    window.show();
-    QApplication::setActiveWindow(&window);
-    if (!QTest::qWaitForWindowActive(&window))
-        qWarning("the world geography window did not become active");
-}
-
-void choose(frmWGeo &window, int answerType, int mode, int direction)
-{
-    window.optType[answerType]->setChecked(true);
-    const QList<QList<QRadioButton *>> ways{window.optWhich1, window.optWhich2, window.optWhich3};
-    if (mode == Capitals || mode == FindIt || mode == Flags)
-        ways[mode == Capitals ? 0 : mode == FindIt ? 1 : 2][direction]->setChecked(true);
-    QTest::mouseClick(window.cmdChoice[mode - 1], Qt::LeftButton);
-}
-
-void typeAnswer(frmWGeo &window, const QString &answer)
-{
-    QTest::keyClicks(window.txtAnswer, answer);
-    QTest::keyClick(window.txtAnswer, Qt::Key_Return);
-}
-
 QPointF placeOf(const frmWGeo &window, int country)
 {
     return QPointF(window.countries().number(country, WorldCountries::MapX),

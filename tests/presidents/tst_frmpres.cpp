@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/QuizWindowTesting.h"
 #include "support/TestDoubles.h"
 
 #include "presidents/frmPres.h"
@@ -18,27 +19,7 @@
 #include <QtTest>
 
 using namespace Presidents;
-
-namespace {
-QString fileName(const PictureBox *box)
-{
-    return QFileInfo(box->file()).fileName();
-}
-
-void showActive(frmPres &window)
-{
-    window.show();
-    QApplication::setActiveWindow(&window);
-    if (!QTest::qWaitForWindowActive(&window))
-        qWarning("the presidents window did not become active");
-}
-
-void typeAnswer(frmPres &window, const QString &answer)
-{
-    QTest::keyClicks(window.txtAnswer, answer);
-    QTest::keyClick(window.txtAnswer, Qt::Key_Return);
-}
-} // namespace
+using namespace QuizWindowTesting;
 
 // The US Presidents window's flows through the seams: the review in order, a president named
 // from clues, a row with one missing, typed and picked, Stop and Exit, and a damaged file.
