@@ -24,20 +24,6 @@
 
 namespace {
 
-QPushButton *makeButton(const QString &caption, const QString &name, const char *colour,
-                        QWidget *parent)
-{
-    auto *button = Named(new QPushButton(caption, parent), name);
-    // Enter presses the focused button, so the whole window works from the keyboard.
-    button->setAutoDefault(true);
-    button->setMinimumHeight(40);
-    QFont bold = parent->font();
-    bold.setBold(true);
-    button->setFont(bold);
-    StyleBrightButton(button, QColor(QLatin1String(colour)));
-    return button;
-}
-
 QGroupBox *makeFrame(const QString &caption, const QString &name, QWidget *parent)
 {
     auto *frame = Named(new QGroupBox(caption, parent), name);
@@ -139,7 +125,7 @@ void frmCal::buildControls()
     const char *colours[] = {"#6A1B9A", "#1565C0", "#00838F", "#2E7D32"};
     m_menuGroup = new QButtonGroup(this);
     for (int i = 0; i < captions.size(); ++i) {
-        auto *button = makeButton(captions[i], ArrayName("cmdMenu", i), colours[i], this);
+        auto *button = MakeBoldBrightButton(captions[i], ArrayName("cmdMenu", i), colours[i], this);
         button->setCheckable(true);
         button->setAccessibleName(QString(captions[i]).remove(u'&'));
         m_menuGroup->addButton(button, i);
@@ -151,8 +137,8 @@ void frmCal::buildControls()
         cmdMenu.append(button);
     }
     top->addStretch();
-    cmdHelp = makeButton(tr("&Help"), QStringLiteral("cmdHelp"), "#5E35B1", this);
-    cmdExit = makeButton(exitCaption(false), QStringLiteral("cmdExit"), "#C62828", this);
+    cmdHelp = MakeBoldBrightButton(tr("&Help"), QStringLiteral("cmdHelp"), "#5E35B1", this);
+    cmdExit = MakeBoldBrightButton(exitCaption(false), QStringLiteral("cmdExit"), "#C62828", this);
     cmdHelp->setAccessibleName(tr("Help"));
     cmdExit->setAccessibleName(tr("Exit"));
     top->addWidget(cmdHelp);
@@ -185,7 +171,8 @@ void frmCal::buildControls()
     lblYear->setWordWrap(false);
     ScaleFont(lblYear, 1.1, true);
     lblYear->setMinimumWidth(lblYear->fontMetrics().horizontalAdvance(QStringLiteral("0000")) + 8);
-    cmdPrint = makeButton(tr("Prin&t"), QStringLiteral("cmdPrint"), "#5D4037", calendarColumn);
+    cmdPrint =
+        MakeBoldBrightButton(tr("Prin&t"), QStringLiteral("cmdPrint"), "#5D4037", calendarColumn);
     cmdPrint->setAccessibleName(tr("Print the calendar"));
     auto *monthRow = new QHBoxLayout;
     monthRow->addWidget(monthLabel);
@@ -225,10 +212,10 @@ void frmCal::buildControls()
     picLesson->setAccessibleName(tr("Lesson picture"));
     lblPage = makeLabel(QStringLiteral("lblPage"), fraParts, "#455A64");
     lblPage->setWordWrap(false);
-    cmdStartReview =
-        makeButton(tr("&Start Review"), QStringLiteral("cmdStartReview"), "#6A1B9A", fraParts);
-    cmdBack = makeButton(tr("&Back"), QStringLiteral("cmdBack"), "#546E7A", fraParts);
-    cmdNext = makeButton(tr("&Next"), QStringLiteral("cmdNext"), "#2E7D32", fraParts);
+    cmdStartReview = MakeBoldBrightButton(tr("&Start Review"), QStringLiteral("cmdStartReview"),
+                                          "#6A1B9A", fraParts);
+    cmdBack = MakeBoldBrightButton(tr("&Back"), QStringLiteral("cmdBack"), "#546E7A", fraParts);
+    cmdNext = MakeBoldBrightButton(tr("&Next"), QStringLiteral("cmdNext"), "#2E7D32", fraParts);
     cmdStartReview->setAccessibleName(tr("Start Review"));
     cmdBack->setAccessibleName(tr("Back"));
     cmdNext->setAccessibleName(tr("Next"));
@@ -321,7 +308,8 @@ QGroupBox *frmCal::buildQuizPanel(const QString &title, const QString &name, con
     answerLabel->setFont(font());
     answerLabel->setBuddy(panel.answer);
     answerLabel->setTextFormat(Qt::PlainText);
-    panel.start = makeButton(tr("&Start Quiz"), QStringLiteral("cmdStartQuiz"), "#1565C0", frame);
+    panel.start =
+        MakeBoldBrightButton(tr("&Start Quiz"), QStringLiteral("cmdStartQuiz"), "#1565C0", frame);
     panel.start->setAccessibleName(tr("Start Quiz"));
     panel.verdict = makeLabel(QStringLiteral("lblVerdict"), frame, "#2E7D32");
     ScaleFont(panel.verdict, 1.1, true);

@@ -26,20 +26,6 @@
 
 namespace {
 
-QPushButton *MakeButton(const QString &caption, const QString &name, const char *colour,
-                        QWidget *parent)
-{
-    auto *button = Named(new QPushButton(caption, parent), name);
-    // Enter presses the focused button, so the contest runs from the keyboard alone.
-    button->setAutoDefault(true);
-    button->setMinimumHeight(40);
-    QFont bold = parent->font();
-    bold.setBold(true);
-    button->setFont(bold);
-    StyleBrightButton(button, QColor(QLatin1String(colour)));
-    return button;
-}
-
 QLabel *MakeValue(const QString &name, double scale, const char *colour, QWidget *parent)
 {
     auto *label = Named(new QLabel(parent), name);
@@ -166,18 +152,19 @@ void frmCandy::buildControls()
                                              " border: 2px solid #FBC02D; border-radius: 8px;"
                                              " padding: 4px; }"));
 
-    cmdSell = MakeButton(tr("Start the &Day"), QStringLiteral("cmdSell"), "#2E7D32", panel);
+    cmdSell =
+        MakeBoldBrightButton(tr("Start the &Day"), QStringLiteral("cmdSell"), "#2E7D32", panel);
     cmdSell->setAccessibleName(tr("Start the day: the teams go selling"));
     cmdSell->setMinimumHeight(48);
-    cmdReport = MakeButton(tr("&Report"), QStringLiteral("cmdReport"), "#6A1B9A", panel);
+    cmdReport = MakeBoldBrightButton(tr("&Report"), QStringLiteral("cmdReport"), "#6A1B9A", panel);
     cmdReport->setAccessibleName(tr("Show the reports of the days sold"));
-    cmdPrint = MakeButton(tr("&Print"), QStringLiteral("cmdPrint"), "#1565C0", panel);
+    cmdPrint = MakeBoldBrightButton(tr("&Print"), QStringLiteral("cmdPrint"), "#1565C0", panel);
     cmdPrint->setAccessibleName(tr("Print the certificate and the contest report"));
-    cmdNew = MakeButton(tr("&New Contest"), QStringLiteral("cmdNew"), "#AD1457", panel);
+    cmdNew = MakeBoldBrightButton(tr("&New Contest"), QStringLiteral("cmdNew"), "#AD1457", panel);
     cmdNew->setAccessibleName(tr("Start a new contest"));
-    cmdHelp = MakeButton(tr("&Help"), QStringLiteral("cmdHelp"), "#00838F", panel);
+    cmdHelp = MakeBoldBrightButton(tr("&Help"), QStringLiteral("cmdHelp"), "#00838F", panel);
     cmdHelp->setAccessibleName(tr("Help"));
-    cmdExit = MakeButton(exitCaption(false), QStringLiteral("cmdExit"), "#C62828", panel);
+    cmdExit = MakeBoldBrightButton(exitCaption(false), QStringLiteral("cmdExit"), "#C62828", panel);
     cmdExit->setAccessibleName(tr("Stop the contest or leave the candy drive"));
     connect(cmdSell, &QPushButton::clicked, this, &frmCandy::cmdSell_Click);
     connect(cmdReport, &QPushButton::clicked, this, &frmCandy::cmdReport_Click);

@@ -40,20 +40,6 @@ namespace {
 
 const QString NewName = QString::fromLatin1(GraphRules::NewName);
 
-QPushButton *makeButton(const QString &caption, const QString &name, const char *colour,
-                        QWidget *parent)
-{
-    auto *button = Named(new QPushButton(caption, parent), name);
-    button->setAutoDefault(true);
-    button->setMinimumHeight(42);
-    button->setAccessibleName(QString(caption).remove(u'&'));
-    QFont bold = parent->font();
-    bold.setBold(true);
-    button->setFont(bold);
-    StyleBrightButton(button, QColor(QLatin1String(colour)));
-    return button;
-}
-
 QLineEdit *makeBox(const QString &name, const QString &accessible, int maxLength, QWidget *parent)
 {
     auto *box = Named(new QLineEdit(parent), name);
@@ -218,9 +204,10 @@ void frmGraphs::buildControls()
     QFont lessonType = font();
     lessonType.setPointSizeF(15);
     txtLearn->setFont(lessonType);
-    cmdChange = makeButton(tr("Contin&ue"), QStringLiteral("cmdChange"), "#6A1B9A", fraLearn);
-    cmdStopLearn =
-        makeButton(tr("&Quit Lesson"), QStringLiteral("cmdStopLearn"), "#546E7A", fraLearn);
+    cmdChange =
+        MakeBoldBrightButton(tr("Contin&ue"), QStringLiteral("cmdChange"), "#6A1B9A", fraLearn, 42);
+    cmdStopLearn = MakeBoldBrightButton(tr("&Quit Lesson"), QStringLiteral("cmdStopLearn"),
+                                        "#546E7A", fraLearn, 42);
     auto *learnButtons = new QVBoxLayout;
     learnButtons->addWidget(cmdChange);
     learnButtons->addWidget(cmdStopLearn);
@@ -262,7 +249,8 @@ void frmGraphs::buildControls()
     pages->addWidget(scrolling(buildTitlesPage(), cmdStep[Lesson::TitlesPage]->accessibleName()));
     pages->addWidget(scrolling(buildScalePage(), cmdStep[Lesson::ScalePage]->accessibleName()));
     pages->addWidget(buildDataPage()); // its rows scroll by themselves
-    cmdFormatOK = makeButton(tr("N&ext >"), QStringLiteral("cmdFormatOK"), "#1565C0", fraFormat);
+    cmdFormatOK = MakeBoldBrightButton(tr("N&ext >"), QStringLiteral("cmdFormatOK"), "#1565C0",
+                                       fraFormat, 42);
     auto *formatLayout = new QVBoxLayout(fraFormat);
     formatLayout->addLayout(stepRow);
     formatLayout->addWidget(pages, 1);
@@ -274,15 +262,21 @@ void frmGraphs::buildControls()
             child->setFont(font());
 
     auto *buttons = Named(new QWidget(this), QStringLiteral("fraButtons"));
-    cmdNewGraph = makeButton(tr("&New"), QStringLiteral("cmdNewGraph"), "#2E7D32", buttons);
-    cmdOpenGraph = makeButton(tr("&Open"), QStringLiteral("cmdOpenGraph"), "#00838F", buttons);
-    cmdSaveGraph = makeButton(tr("&Save"), QStringLiteral("cmdSaveGraph"), "#1565C0", buttons);
-    cmdClear = makeButton(tr("&Clear"), QStringLiteral("cmdClear"), "#EF6C00", buttons);
-    cmdPrint = makeButton(tr("&Print"), QStringLiteral("cmdPrint"), "#5D4037", buttons);
-    cmdLearn = makeButton(tr("Lea&rn"), QStringLiteral("cmdLearn"), "#6A1B9A", buttons);
-    cmdHelp = makeButton(tr("&Help"), QStringLiteral("cmdHelp"), "#455A64", buttons);
-    cmdBuildDone =
-        makeButton(exitCaption(false), QStringLiteral("cmdBuildDone"), "#C62828", buttons);
+    cmdNewGraph =
+        MakeBoldBrightButton(tr("&New"), QStringLiteral("cmdNewGraph"), "#2E7D32", buttons, 42);
+    cmdOpenGraph =
+        MakeBoldBrightButton(tr("&Open"), QStringLiteral("cmdOpenGraph"), "#00838F", buttons, 42);
+    cmdSaveGraph =
+        MakeBoldBrightButton(tr("&Save"), QStringLiteral("cmdSaveGraph"), "#1565C0", buttons, 42);
+    cmdClear =
+        MakeBoldBrightButton(tr("&Clear"), QStringLiteral("cmdClear"), "#EF6C00", buttons, 42);
+    cmdPrint =
+        MakeBoldBrightButton(tr("&Print"), QStringLiteral("cmdPrint"), "#5D4037", buttons, 42);
+    cmdLearn =
+        MakeBoldBrightButton(tr("Lea&rn"), QStringLiteral("cmdLearn"), "#6A1B9A", buttons, 42);
+    cmdHelp = MakeBoldBrightButton(tr("&Help"), QStringLiteral("cmdHelp"), "#455A64", buttons, 42);
+    cmdBuildDone = MakeBoldBrightButton(exitCaption(false), QStringLiteral("cmdBuildDone"),
+                                        "#C62828", buttons, 42);
     cmdLearn->setAccessibleName(tr("Learn about graphs"));
     auto *buttonGrid = new QGridLayout(buttons);
     buttonGrid->setContentsMargins(0, 0, 0, 0);

@@ -24,20 +24,6 @@
 
 namespace {
 
-QPushButton *MakeButton(const QString &caption, const QString &name, const char *colour,
-                        QWidget *parent)
-{
-    auto *button = Named(new QPushButton(caption, parent), name);
-    // Enter presses the focused button, so a week runs from the keyboard alone.
-    button->setAutoDefault(true);
-    button->setMinimumHeight(40);
-    QFont bold = parent->font();
-    bold.setBold(true);
-    button->setFont(bold);
-    StyleBrightButton(button, QColor(QLatin1String(colour)));
-    return button;
-}
-
 QLabel *MakeLabel(const QString &name, QWidget *parent, double scale = 1.0, bool bold = false)
 {
     auto *label = new QLabel(parent);
@@ -145,11 +131,11 @@ void frmLemon::buildControls()
     lengthRow->addWidget(optShort);
     connect(optLong, &QRadioButton::toggled, this, [this] { showStatus(); });
 
-    cmdNew = MakeButton(tr("&New Summer"), QStringLiteral("cmdNew"), "#1565C0", panel);
+    cmdNew = MakeBoldBrightButton(tr("&New Summer"), QStringLiteral("cmdNew"), "#1565C0", panel);
     cmdNew->setAccessibleName(tr("Start a new summer"));
-    cmdHelp = MakeButton(tr("&Help"), QStringLiteral("cmdHelp"), "#00838F", panel);
+    cmdHelp = MakeBoldBrightButton(tr("&Help"), QStringLiteral("cmdHelp"), "#00838F", panel);
     cmdHelp->setAccessibleName(tr("Help"));
-    cmdExit = MakeButton(exitCaption(false), QStringLiteral("cmdExit"), "#C62828", panel);
+    cmdExit = MakeBoldBrightButton(exitCaption(false), QStringLiteral("cmdExit"), "#C62828", panel);
     cmdExit->setAccessibleName(tr("Stop the summer or leave the lemonade stand"));
     connect(cmdNew, &QPushButton::clicked, this, &frmLemon::cmdNew_Click);
     connect(cmdHelp, &QPushButton::clicked, this, &frmLemon::openHelp);
@@ -270,7 +256,8 @@ QWidget *frmLemon::buildPlanPage()
     lblTip->setAccessibleName(tr("Tip"));
     lblTip->setStyleSheet(QStringLiteral("QLabel { background: #FFF3E0; border: 2px solid #FFB74D;"
                                          " border-radius: 8px; padding: 4px; }"));
-    cmdSell = MakeButton(tr("&Open the Stand"), QStringLiteral("cmdSell"), "#2E7D32", page);
+    cmdSell =
+        MakeBoldBrightButton(tr("&Open the Stand"), QStringLiteral("cmdSell"), "#2E7D32", page);
     cmdSell->setAccessibleName(tr("Buy the shopping and open the stand for the week"));
     connect(cmdSell, &QPushButton::clicked, this, &frmLemon::cmdSell_Click);
 
@@ -294,7 +281,7 @@ QWidget *frmLemon::buildSellingPage()
     lblSelling->setAlignment(Qt::AlignCenter);
     lblSelling->setAccessibleName(tr("Selling"));
     lblSelling->setStyleSheet(QStringLiteral("color: #E65100;"));
-    cmdSkip = MakeButton(tr("S&kip"), QStringLiteral("cmdSkip"), "#6A1B9A", page);
+    cmdSkip = MakeBoldBrightButton(tr("S&kip"), QStringLiteral("cmdSkip"), "#6A1B9A", page);
     cmdSkip->setAccessibleName(tr("Skip to the sales report"));
     connect(cmdSkip, &QPushButton::clicked, this, &frmLemon::cmdSkip_Click);
     auto *layout = new QVBoxLayout(page);
@@ -358,7 +345,7 @@ QWidget *frmLemon::buildReportPage()
     lblReasons->setStyleSheet(
         QStringLiteral("QLabel { background: #FFF3E0; border: 2px solid #FFB74D;"
                        " border-radius: 8px; padding: 4px; }"));
-    cmdNext = MakeButton(tr("Next &Week"), QStringLiteral("cmdNext"), "#2E7D32", page);
+    cmdNext = MakeBoldBrightButton(tr("Next &Week"), QStringLiteral("cmdNext"), "#2E7D32", page);
     cmdNext->setAccessibleName(tr("Plan the next week"));
     connect(cmdNext, &QPushButton::clicked, this, &frmLemon::cmdNext_Click);
     auto *layout = new QVBoxLayout(page);
@@ -392,7 +379,8 @@ QWidget *frmLemon::buildEndPage()
     txtName->setAccessibleName(tr("Your name for the certificate"));
     txtName->setMaxLength(40);
     txtName->setMinimumHeight(34);
-    cmdPrint = MakeButton(tr("Pr&int Certificate"), QStringLiteral("cmdPrint"), "#1565C0", page);
+    cmdPrint =
+        MakeBoldBrightButton(tr("Pr&int Certificate"), QStringLiteral("cmdPrint"), "#1565C0", page);
     cmdPrint->setAccessibleName(tr("Print the certificate and the season report"));
     connect(cmdPrint, &QPushButton::clicked, this, &frmLemon::cmdPrint_Click);
     connect(txtName, &QLineEdit::returnPressed, cmdPrint, &QPushButton::click);

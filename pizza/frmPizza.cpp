@@ -48,20 +48,6 @@ protected:
     int valueFromText(const QString &) const override { return value(); }
 };
 
-QPushButton *MakeButton(const QString &caption, const QString &name, const char *colour,
-                        QWidget *parent)
-{
-    auto *button = Named(new QPushButton(caption, parent), name);
-    // Enter presses the focused button, so the evening runs from the keyboard alone.
-    button->setAutoDefault(true);
-    button->setMinimumHeight(38);
-    QFont bold = parent->font();
-    bold.setBold(true);
-    button->setFont(bold);
-    StyleBrightButton(button, QColor(QLatin1String(colour)));
-    return button;
-}
-
 QLabel *MakeValue(const QString &name, double scale, QWidget *parent)
 {
     auto *label = Named(new QLabel(parent), name);
@@ -176,7 +162,7 @@ void frmPizza::buildControls()
     lblBake = MakeValue(QStringLiteral("lblBake"), 1.6, fraOven);
     lblBake->setMinimumWidth(48);
     lblBake->setAccessibleName(tr("Pizzas to bake"));
-    cmdBake = MakeButton(tr("Ba&ke"), QStringLiteral("cmdBake"), "#D84315", fraOven);
+    cmdBake = MakeBoldBrightButton(tr("Ba&ke"), QStringLiteral("cmdBake"), "#D84315", fraOven, 38);
     cmdBake->setAccessibleName(tr("Bake the pizzas"));
     lblOven = MakeValue(QStringLiteral("lblOven"), 1.0, fraOven);
     lblOven->setAccessibleName(tr("Oven"));
@@ -197,7 +183,8 @@ void frmPizza::buildControls()
     fraLoad = MakeFrame(QStringLiteral("Car at Pizza Place:"), QStringLiteral("fraLoad"), panel);
     lblReady = MakeValue(QStringLiteral("lblReady"), 1.4, fraLoad);
     lblReady->setAccessibleName(tr("Pizzas ready"));
-    cmdLoad = MakeButton(tr("&Load Car"), QStringLiteral("cmdLoad"), "#6A1B9A", fraLoad);
+    cmdLoad =
+        MakeBoldBrightButton(tr("&Load Car"), QStringLiteral("cmdLoad"), "#6A1B9A", fraLoad, 38);
     cmdLoad->setAccessibleName(tr("Load the car"));
     lblCarPizzas = MakeValue(QStringLiteral("lblCarPizzas"), 1.4, fraLoad);
     lblCarPizzas->setAccessibleName(tr("Pizzas in the car"));
@@ -218,9 +205,10 @@ void frmPizza::buildControls()
     lblXY = MakeValue(QStringLiteral("lblXY"), 1.5, fraDrive);
     lblXY->setAccessibleName(tr("Destination"));
     lblXY->setMinimumWidth(110);
-    cmdGo = MakeButton(tr("&Go"), QStringLiteral("cmdGo"), "#2E7D32", fraDrive);
+    cmdGo = MakeBoldBrightButton(tr("&Go"), QStringLiteral("cmdGo"), "#2E7D32", fraDrive, 38);
     cmdGo->setAccessibleName(tr("Drive to the destination"));
-    cmdReturn = MakeButton(tr("Come &Back"), QStringLiteral("cmdReturn"), "#00838F", fraDrive);
+    cmdReturn = MakeBoldBrightButton(tr("Come &Back"), QStringLiteral("cmdReturn"), "#00838F",
+                                     fraDrive, 38);
     cmdReturn->setAccessibleName(tr("Drive back to the pizza place"));
     lblCar = MakeValue(QStringLiteral("lblCar"), 1.0, fraDrive);
     lblCar->setAccessibleName(tr("Car"));
@@ -246,12 +234,13 @@ void frmPizza::buildControls()
     connect(cmdGo, &QPushButton::clicked, this, &frmPizza::cmdGo_Click);
     connect(cmdReturn, &QPushButton::clicked, this, &frmPizza::cmdReturn_Click);
 
-    cmdNew = MakeButton(tr("&Start"), QStringLiteral("cmdNew"), "#1565C0", panel);
+    cmdNew = MakeBoldBrightButton(tr("&Start"), QStringLiteral("cmdNew"), "#1565C0", panel, 38);
     cmdNew->setAccessibleName(tr("Start a new evening"));
-    cmdPause = MakeButton(tr("&Pause"), QStringLiteral("cmdPause"), "#F9A825", panel);
+    cmdPause = MakeBoldBrightButton(tr("&Pause"), QStringLiteral("cmdPause"), "#F9A825", panel, 38);
     cmdPause->setAccessibleName(tr("Pause or restart the evening"));
-    cmdHelp = MakeButton(tr("&Help"), QStringLiteral("cmdHelp"), "#00838F", panel);
-    cmdExit = MakeButton(exitCaption(false), QStringLiteral("cmdExit"), "#C62828", panel);
+    cmdHelp = MakeBoldBrightButton(tr("&Help"), QStringLiteral("cmdHelp"), "#00838F", panel, 38);
+    cmdExit =
+        MakeBoldBrightButton(exitCaption(false), QStringLiteral("cmdExit"), "#C62828", panel, 38);
     cmdHelp->setAccessibleName(tr("Help"));
     cmdExit->setAccessibleName(tr("Stop the evening or leave the pizza place"));
     auto *buttons = new QGridLayout;

@@ -227,3 +227,16 @@ QPushButton *MakeBrightButton(const QString &caption, const QString &name, const
     StyleBrightButton(button, QColor(QLatin1String(colour)));
     return button;
 }
+
+QPushButton *MakeBoldBrightButton(const QString &caption, const QString &name, const char *colour,
+                                  QWidget *parent, int minHeight)
+{
+    auto *button = Named(new QPushButton(caption, parent), name);
+    button->setAutoDefault(true);
+    button->setMinimumHeight(minHeight);
+    QFont bold = parent->font();
+    bold.setBold(true);
+    button->setFont(bold);
+    StyleBrightButton(button, QColor(QLatin1String(colour)));
+    return button;
+}

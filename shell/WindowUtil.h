@@ -59,6 +59,10 @@ void StyleBrightButton(QPushButton *button, const QColor &colour, int radius = 1
 // when focused, and it keeps one row's height however the window grows.
 QPushButton *MakeBrightButton(const QString &caption, const QString &name, const char *colour,
                               QWidget *parent);
+// A named bright button in its parent's lettering made bold, at least `minHeight` tall, that
+// grows with its row: Enter presses it when focused, so a window works from the keyboard alone.
+QPushButton *MakeBoldBrightButton(const QString &caption, const QString &name, const char *colour,
+                                  QWidget *parent, int minHeight = 40);
 // The same look as style sheet text for the buttons `selector` picks ("#cmdChoice_3"), so a
 // window of many such buttons can style them all with one sheet, read once.
 QString BrightButtonStyle(const QString &selector, const QColor &colour, int radius = 12);

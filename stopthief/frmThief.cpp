@@ -5,8 +5,8 @@
 #include "CasePapers.h"
 
 #include "shell/core/DataPath.h"
-#include "shell/Services.h"
 #include "shell/core/Settings.h"
+#include "shell/Services.h"
 #include "shell/WindowUtil.h"
 
 #include <QCheckBox>
@@ -34,20 +34,6 @@
 namespace {
 
 enum Paper { CasePaper, CluesPaper, SolutionPaper };
-
-QPushButton *makeButton(const QString &caption, const QString &name, const char *colour,
-                        QWidget *parent)
-{
-    auto *button = Named(new QPushButton(caption, parent), name);
-    // Enter presses the focused button, so the whole window works from the keyboard.
-    button->setAutoDefault(true);
-    button->setMinimumHeight(44);
-    QFont bold = parent->font();
-    bold.setBold(true);
-    button->setFont(bold);
-    StyleBrightButton(button, QColor(QLatin1String(colour)));
-    return button;
-}
 
 QString frameStyle(const char *background)
 {
@@ -149,8 +135,10 @@ void frmThief::buildControls()
     txtHints = makeReader(QStringLiteral("txtHints"), 15, fraHints);
     txtHints->setAccessibleName(tr("Hints"));
     txtHints->setPlaceholderText(tr("Press Next Hint to see the first step of the solution."));
-    cmdHint = makeButton(tr("Next Hin&t"), QStringLiteral("cmdHint"), "#00838F", fraHints);
-    cmdHintOK = makeButton(tr("Hi&de Hints"), QStringLiteral("cmdHintOK"), "#546E7A", fraHints);
+    cmdHint =
+        MakeBoldBrightButton(tr("Next Hin&t"), QStringLiteral("cmdHint"), "#00838F", fraHints, 44);
+    cmdHintOK = MakeBoldBrightButton(tr("Hi&de Hints"), QStringLiteral("cmdHintOK"), "#546E7A",
+                                     fraHints, 44);
     auto *hintButtons = new QVBoxLayout;
     hintButtons->addWidget(cmdHint);
     hintButtons->addWidget(cmdHintOK);
@@ -166,10 +154,14 @@ void frmThief::buildControls()
     solutionLayout->addWidget(txtSolution);
 
     fraChoice = makeFrame(tr("Detective's Desk"), QStringLiteral("fraChoice"), this);
-    cmdNew = makeButton(tr("&New Case"), QStringLiteral("cmdNew"), "#2E7D32", fraChoice);
-    cmdOld = makeButton(tr("&Old Case"), QStringLiteral("cmdOld"), "#1565C0", fraChoice);
-    cmdHelp = makeButton(tr("&Help"), QStringLiteral("cmdHelp"), "#6A1B9A", fraChoice);
-    cmdExit = makeButton(exitCaption(false), QStringLiteral("cmdExit"), "#C62828", fraChoice);
+    cmdNew =
+        MakeBoldBrightButton(tr("&New Case"), QStringLiteral("cmdNew"), "#2E7D32", fraChoice, 44);
+    cmdOld =
+        MakeBoldBrightButton(tr("&Old Case"), QStringLiteral("cmdOld"), "#1565C0", fraChoice, 44);
+    cmdHelp =
+        MakeBoldBrightButton(tr("&Help"), QStringLiteral("cmdHelp"), "#6A1B9A", fraChoice, 44);
+    cmdExit = MakeBoldBrightButton(exitCaption(false), QStringLiteral("cmdExit"), "#C62828",
+                                   fraChoice, 44);
     auto *choiceLayout = new QGridLayout(fraChoice);
     choiceLayout->addWidget(cmdNew, 0, 0);
     choiceLayout->addWidget(cmdOld, 0, 1);
@@ -180,8 +172,8 @@ void frmThief::buildControls()
     auto *diffLayout = new QGridLayout(fraDiff);
     for (int i = 0; i < CaseNumber::Levels; ++i) {
         const QString caption = CaseNumber::levelCaption(i + 1);
-        auto *option = Named(new QRadioButton(levelMnemonic(i + 1), fraDiff),
-                             ArrayName("optDiff", i));
+        auto *option =
+            Named(new QRadioButton(levelMnemonic(i + 1), fraDiff), ArrayName("optDiff", i));
         option->setAccessibleName(caption);
         option->installEventFilter(this);
         option->setStyleSheet(
@@ -196,8 +188,9 @@ void frmThief::buildControls()
         diffLayout->addWidget(option, i, 0, 1, 2);
         optDiff.append(option);
     }
-    cmdOK = makeButton(tr("OK"), QStringLiteral("cmdOK"), "#2E7D32", fraDiff);
-    cmdCancel = makeButton(tr("Cancel"), QStringLiteral("cmdCancel"), "#546E7A", fraDiff);
+    cmdOK = MakeBoldBrightButton(tr("OK"), QStringLiteral("cmdOK"), "#2E7D32", fraDiff, 44);
+    cmdCancel =
+        MakeBoldBrightButton(tr("Cancel"), QStringLiteral("cmdCancel"), "#546E7A", fraDiff, 44);
     diffLayout->addWidget(cmdOK, CaseNumber::Levels, 0);
     diffLayout->addWidget(cmdCancel, CaseNumber::Levels, 1);
 
@@ -213,8 +206,9 @@ void frmThief::buildControls()
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), txtCNum));
     txtCNum->installEventFilter(this);
     prompt->setBuddy(txtCNum);
-    cmdOKCN = makeButton(tr("OK"), QStringLiteral("cmdOKCN"), "#2E7D32", fraCase);
-    cmdCancelCN = makeButton(tr("Cancel"), QStringLiteral("cmdCancelCN"), "#546E7A", fraCase);
+    cmdOKCN = MakeBoldBrightButton(tr("OK"), QStringLiteral("cmdOKCN"), "#2E7D32", fraCase, 44);
+    cmdCancelCN =
+        MakeBoldBrightButton(tr("Cancel"), QStringLiteral("cmdCancelCN"), "#546E7A", fraCase, 44);
     auto *caseLayout = new QGridLayout(fraCase);
     caseLayout->addWidget(prompt, 0, 0, 1, 2);
     caseLayout->addWidget(txtCNum, 1, 0, 1, 2);
@@ -225,9 +219,11 @@ void frmThief::buildControls()
     // Two to a row, so the desk stays short enough for a small or highly scaled screen.
     auto *accuseLayout = new QGridLayout(fraAccuse);
     for (int i = 0; i < Case::Suspects; ++i) {
-        auto *button = makeButton(QString(), ArrayName("cmdSuspect", i), "#EF6C00", fraAccuse);
+        auto *button =
+            MakeBoldBrightButton(QString(), ArrayName("cmdSuspect", i), "#EF6C00", fraAccuse, 44);
         connect(button, &QPushButton::clicked, this, [this, i] { cmdSuspect_Click(i); });
-        accuseLayout->addWidget(button, i / 2, i % 2, 1, i == Case::Suspects - 1 && i % 2 == 0 ? 2 : 1);
+        accuseLayout->addWidget(button, i / 2, i % 2, 1,
+                                i == Case::Suspects - 1 && i % 2 == 0 ? 2 : 1);
         cmdSuspect.append(button);
     }
 
@@ -241,8 +237,10 @@ void frmThief::buildControls()
     overLayout->addWidget(lblOver);
 
     fraSolve = makeFrame(tr("Stuck?"), QStringLiteral("fraSolve"), this);
-    cmdHints = makeButton(tr("&Get a Hint"), QStringLiteral("cmdHints"), "#00838F", fraSolve);
-    cmdSoln = makeButton(tr("&Solution"), QStringLiteral("cmdSoln"), "#455A64", fraSolve);
+    cmdHints = MakeBoldBrightButton(tr("&Get a Hint"), QStringLiteral("cmdHints"), "#00838F",
+                                    fraSolve, 44);
+    cmdSoln =
+        MakeBoldBrightButton(tr("&Solution"), QStringLiteral("cmdSoln"), "#455A64", fraSolve, 44);
     auto *solveLayout = new QHBoxLayout(fraSolve);
     solveLayout->addWidget(cmdHints);
     solveLayout->addWidget(cmdSoln);
@@ -251,9 +249,12 @@ void frmThief::buildControls()
     lblPrintCase = Named(new QLabel(tr("Print:"), fraPrint), QStringLiteral("lblPrintCase"));
     lblPrintCase->setTextFormat(Qt::PlainText);
     lblPrintCase->setStyleSheet(QStringLiteral("color: #1A237E; font-weight: bold;"));
-    cmdPrintCase = makeButton(tr("C&ase"), QStringLiteral("cmdPrintCase"), "#5D4037", fraPrint);
-    cmdPrintClues = makeButton(tr("Clu&es"), QStringLiteral("cmdPrintClues"), "#5D4037", fraPrint);
-    cmdPrintSoln = makeButton(tr("Solut&ion"), QStringLiteral("cmdPrintSoln"), "#5D4037", fraPrint);
+    cmdPrintCase =
+        MakeBoldBrightButton(tr("C&ase"), QStringLiteral("cmdPrintCase"), "#5D4037", fraPrint, 44);
+    cmdPrintClues = MakeBoldBrightButton(tr("Clu&es"), QStringLiteral("cmdPrintClues"), "#5D4037",
+                                         fraPrint, 44);
+    cmdPrintSoln = MakeBoldBrightButton(tr("Solut&ion"), QStringLiteral("cmdPrintSoln"), "#5D4037",
+                                        fraPrint, 44);
     auto *printLayout = new QHBoxLayout(fraPrint);
     printLayout->setContentsMargins(0, 0, 0, 0);
     printLayout->addWidget(lblPrintCase);
@@ -377,8 +378,7 @@ void frmThief::fillSuspectNotes()
             combo->addItems(choices[k]);
             combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
             combo->setMinimumContentsLength(10);
-            combo->setAccessibleName(
-                tr("%1 of %2").arg(m_case->titles[k], m_case->displayList[s]));
+            combo->setAccessibleName(tr("%1 of %2").arg(m_case->titles[k], m_case->displayList[s]));
             setType(combo, this, 13);
             grid->addWidget(combo, 1 + k / 3, k % 3);
         }
