@@ -9,16 +9,18 @@
 #include "shell/core/Random.h"
 #include "shell/core/Settings.h"
 
+#include <array>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 
 namespace {
 
-// The window in a mode, with the answer type and the mode's direction chosen first.
-frmGeo *InMode(int mode, int answerType, int direction = 0)
+// The window in a mode, with the answer type and the mode's direction chosen first in its
+// settings line; `seedStep` keeps the two windows' questions apart.
+template <typename Window>
+Window *ModeOf(std::array<qint16, 4> &values, int seedStep, int mode, int answerType, int direction)
 {
-    auto &values = TheSettings().usGeography.values;
     values[0] = qint16(answerType);
     if (mode == Capitals)
         values[1] = qint16(direction);
@@ -26,30 +28,22 @@ frmGeo *InMode(int mode, int answerType, int direction = 0)
         values[2] = qint16(direction);
     if (mode == Flags)
         values[3] = qint16(direction);
-    auto *window = new frmGeo;
+    auto *window = new Window;
     // After the window, which seeds the source from the clock, so the picture is the same
     // every time.
-    Randomize(mode * 7 + direction);
+    Randomize(mode * seedStep + direction);
     window->cmdChoice[mode - 1]->click();
     return window;
 }
 
+frmGeo *InMode(int mode, int answerType, int direction = 0)
+{
+    return ModeOf<frmGeo>(TheSettings().usGeography.values, 7, mode, answerType, direction);
+}
+
 frmWGeo *WorldInMode(int mode, int answerType, int direction = 0)
 {
-    auto &values = TheSettings().worldGeography.values;
-    values[0] = qint16(answerType);
-    if (mode == Capitals)
-        values[1] = qint16(direction);
-    if (mode == FindIt)
-        values[2] = qint16(direction);
-    if (mode == Flags)
-        values[3] = qint16(direction);
-    auto *window = new frmWGeo;
-    // After the window, which seeds the source from the clock, so the picture is the same
-    // every time.
-    Randomize(mode * 11 + direction);
-    window->cmdChoice[mode - 1]->click();
-    return window;
+    return ModeOf<frmWGeo>(TheSettings().worldGeography.values, 11, mode, answerType, direction);
 }
 
 } // namespace
